@@ -1,0 +1,18 @@
+#pragma once
+
+#include "platform/database.h"
+
+#include <SQLiteCpp/SQLiteCpp.h>
+
+namespace platform {
+
+template <typename Work>
+auto Connection::guarded(Work work) -> decltype(work()) {
+    try {
+        return work();
+    } catch (const SQLite::Exception& failure) {
+        translate(failure);
+    }
+}
+
+}  // namespace platform

@@ -1,0 +1,246 @@
+#include "platform/controls.h"
+
+#include "platform/hangul.h"
+
+#include <QInputMethodEvent>
+#include <QKeyEvent>
+#include <QMouseEvent>
+#include <QPainter>
+#include <QStyleOptionFocusRect>
+
+#include <array>
+
+namespace platform {
+
+namespace {
+
+struct KeyPair {
+    int qtKey;
+    int code;
+};
+
+constexpr std::array keyPairs{
+    KeyPair{Qt::Key_Backspace, key::backspace}, KeyPair{Qt::Key_Return, key::enter},
+    KeyPair{Qt::Key_Enter, key::enter},         KeyPair{Qt::Key_PageUp, key::pageUp},
+    KeyPair{Qt::Key_PageDown, key::pageDown},   KeyPair{Qt::Key_End, key::end},
+    KeyPair{Qt::Key_Home, key::home},           KeyPair{Qt::Key_Left, key::left},
+    KeyPair{Qt::Key_Up, key::up},               KeyPair{Qt::Key_Right, key::right},
+    KeyPair{Qt::Key_Down, key::down},
+};
+
+void setColour(QWidget& widget, QPalette::ColorRole role, QRgb colour) {
+    QPalette palette = widget.palette();
+    palette.setColor(role, QColor::fromRgb(colour));
+    widget.setPalette(palette);
+}
+
+void paintFocusMark(QWidget& widget) {
+    QPainter painter(&widget);
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(QPen(QColor::fromRgb(colour::accent), 2));
+    painter.drawRoundedRect(QRectF(widget.rect()).adjusted(1.5, 1.5, -1.5, -1.5), 5, 5);
+}
+
+}  // namespace
+
+int keyCode(int qtKey) {
+    for (const KeyPair& pair : keyPairs)
+        if (pair.qtKey == qtKey)
+            return pair.code;
+    return 0;
+}
+
+Label::Label(QWidget* parent) : QLabel(parent) {
+    setTextFormat(Qt::PlainText);
+    setMouseTracking(true);
+    setIndent(0);
+}
+
+void Label::setCaption(const QString& caption) {
+    setText(caption);
+    if (focusPolicy() != Qt::NoFocus)
+        setAccessibleName(caption);
+}
+
+void Label::setForeColor(QRgb colour) {
+    if (foreColor() != colour)
+        setColour(*this, QPalette::WindowText, colour);
+}
+
+QRgb Label::foreColor() const {
+    return palette().color(QPalette::WindowText).rgb();
+}
+
+void Label::setBackColor(QRgb colour) {
+    setAutoFillBackground(true);
+    setColour(*this, QPalette::Window, colour);
+}
+
+void Label::mousePressEvent(QMouseEvent* event) {
+    pressed_ = event->button() == Qt::LeftButton;
+    event->accept();
+}
+
+void Label::mouseReleaseEvent(QMouseEvent* event) {
+    event->accept();
+    const bool clicked = pressed_ && event->button() == Qt::LeftButton && rect().contains(event->pos());
+    pressed_ = false;
+    if (clicked && onClick)
+        onClick();
+}
+
+void Label::mouseMoveEvent(QMouseEvent* event) {
+    event->accept();
+    if (onMouseMove)
+        onMouseMove();
+}
+
+void Label::keyPressEvent(QKeyEvent* event) {
+    const bool presses = event->key() == Qt::Key_Space || event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
+    if (presses && onClick && !event->isAutoRepeat())
+        onClick();
+    else
+        QLabel::keyPressEvent(event);
+}
+
+void Label::focusInEvent(QFocusEvent* event) {
+    QLabel::focusInEvent(event);
+    update();
+}
+
+void Label::focusOutEvent(QFocusEvent* event) {
+    QLabel::focusOutEvent(event);
+    update();
+}
+
+void Label::paintEvent(QPaintEvent* event) {
+    QLabel::paintEvent(event);
+    if (hasFocus())
+        paintFocusMark(*this);
+}
+
+TextBox::TextBox(QWidget* parent) : QLineEdit(parent) {
+    setAttribute(Qt::WA_InputMethodEnabled, false);
+    setContextMenuPolicy(Qt::NoContextMenu);
+    connect(this, &QLineEdit::textChanged, this, [this] {
+        if (onChange)
+            onChange();
+    });
+}
+
+void TextBox::setForeColor(QRgb colour) {
+    if (foreColor() != colour)
+        setColour(*this, QPalette::Text, colour);
+}
+
+QRgb TextBox::foreColor() const {
+    return palette().color(QPalette::Text).rgb();
+}
+
+void TextBox::setBackColor(QRgb colour) {
+    setColour(*this, QPalette::Base, colour);
+}
+
+QRgb TextBox::backColor() const {
+    return palette().color(QPalette::Base).rgb();
+}
+
+void TextBox::setLocked(bool locked) {
+    setReadOnly(locked);
+}
+
+void TextBox::selectAndFocus() {
+    setFocus();
+    selectAll();
+}
+
+void TextBox::keyPressEvent(QKeyEvent* event) {
+    const int code = keyCode(event->key());
+    if (onKeyDown && code != 0)
+        onKeyDown(code);
+    // Enter belongs to the form: it moves between boxes and never edits one.
+    if (code == key::enter)
+        return;
+    const QString latin = latinFromHangul(event->text());
+    if (latin != event->text()) {
+        if (!isReadOnly())
+            insert(latin);
+        return;
+    }
+    QLineEdit::keyPressEvent(event);
+    // Arrows at the edge of a box must not wander on to the form as focus moves.
+    event->accept();
+}
+
+void TextBox::inputMethodEvent(QInputMethodEvent* event) {
+    if (!isReadOnly() && !event->commitString().isEmpty())
+        insert(latinFromHangul(event->commitString()));
+    event->accept();
+}
+
+void TextBox::mouseReleaseEvent(QMouseEvent* event) {
+    QLineEdit::mouseReleaseEvent(event);
+    if (event->button() == Qt::LeftButton && rect().contains(event->pos()) && onClick)
+        onClick();
+}
+
+void TextBox::mouseMoveEvent(QMouseEvent* event) {
+    QLineEdit::mouseMoveEvent(event);
+    event->accept();
+}
+
+StoryBox::StoryBox(QWidget* parent) : QPlainTextEdit(parent) {
+    setReadOnly(true);
+    setFrameShape(QFrame::NoFrame);
+    setContextMenuPolicy(Qt::NoContextMenu);
+    setTabChangesFocus(true);
+}
+
+CommandButton::CommandButton(const QString& caption, QWidget* parent) : QPushButton(caption, parent) {
+    setAccessibleName(caption);
+    setMouseTracking(true);
+    connect(this, &QPushButton::clicked, this, [this] {
+        if (onClick)
+            onClick();
+    });
+}
+
+PictureButton::PictureButton(QWidget* parent) : QAbstractButton(parent) {
+    setMouseTracking(true);
+    setFocusPolicy(Qt::TabFocus);
+    connect(this, &QAbstractButton::clicked, this, [this] {
+        if (onClick)
+            onClick();
+    });
+}
+
+void PictureButton::setPicture(const QPixmap& picture, const QString& fileName) {
+    picture_ = picture;
+    setProperty("picture", fileName);
+    update();
+}
+
+void PictureButton::paintEvent(QPaintEvent*) {
+    QPainter painter(this);
+    painter.setRenderHint(QPainter::SmoothPixmapTransform);
+    if (!picture_.isNull())
+        painter.drawPixmap(rect(), picture_);
+    painter.end();
+    if (hasFocus())
+        paintFocusMark(*this);
+}
+
+void PictureButton::mouseMoveEvent(QMouseEvent* event) {
+    QAbstractButton::mouseMoveEvent(event);
+    event->accept();
+    if (onMouseMove)
+        onMouseMove();
+}
+
+void PictureButton::enterEvent(QEnterEvent* event) {
+    QAbstractButton::enterEvent(event);
+    if (onMouseMove)
+        onMouseMove();
+}
+
+}  // namespace platform

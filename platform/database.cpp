@@ -1,0 +1,175 @@
+#include "platform/database.h"
+
+#include "platform/connection_guard.h"
+
+#include "platform/error.h"
+#include "platform/recordset.h"
+
+#include <QFile>
+#include <QFileInfo>
+#include <SQLiteCpp/SQLiteCpp.h>
+#include <sqlite3.h>
+
+#include <utility>
+
+namespace platform {
+
+namespace {
+
+// How long a second program on the same stores waits for its turn, in milliseconds.
+constexpr int busyTimeout = 15000;
+
+QHash<QString, std::weak_ptr<Connection>>& openConnections() {
+    static QHash<QString, std::weak_ptr<Connection>> connections;
+    return connections;
+}
+
+}  // namespace
+
+StoreFormat storeFormat(const QString& file) {
+    QFile opened(file);
+    if (!QFileInfo(file).isFile() || !opened.open(QIODevice::ReadOnly))
+        return StoreFormat::Missing;
+    const QByteArray start = opened.read(24);
+    if (start.startsWith(QByteArrayLiteral("SQLite format 3")))
+        return StoreFormat::Store;
+    const QByteArray engine = start.mid(4, 15);
+    if (engine == "Standard Jet DB" || engine == "Standard ACE DB")
+        return StoreFormat::AccessFile;
+    return StoreFormat::Unknown;
+}
+
+Database Database::open(const QString& file, const QString& shownName) {
+    switch (storeFormat(file)) {
+        case StoreFormat::Missing:
+            throw RuntimeError(Fault::DatabaseNotFound,
+                               QStringLiteral("Could not find file '%1' (%2).").arg(shownName, file));
+        case StoreFormat::AccessFile:
+            throw RuntimeError(Fault::UnrecognizedFormat,
+                               QStringLiteral("'%1' is a genuine Access file. Bring it along with \"course "
+                                              "import\"; the file was left as it is.")
+                                   .arg(shownName));
+        case StoreFormat::Unknown:
+            throw RuntimeError(Fault::UnrecognizedFormat,
+                               QStringLiteral("'%1' is damaged: it is no store of this program.").arg(shownName));
+        case StoreFormat::Store: break;
+    }
+    Database database;
+    const QString key = QFileInfo(file).canonicalFilePath();
+    auto& slot = openConnections()[key];
+    database.connection_ = slot.lock();
+    if (!database.connection_) {
+        database.connection_ = std::make_shared<Connection>(file, shownName);
+        slot = database.connection_;
+    }
+    return database;
+}
+
+Recordset Database::openRecordset(const QString& sql) const {
+    if (!connection_)
+        throw RuntimeError(Fault::InvalidCall, QStringLiteral("The database of this query is closed: %1").arg(sql));
+    return {connection_, Query::parse(sql)};
+}
+
+Batch::Batch(const Database& database) : connection_(database.connection_) {
+    if (!connection_)
+        throw RuntimeError(Fault::InvalidCall, QStringLiteral("A run of edits needs an open database."));
+    connection_->beginBatch();
+}
+
+Batch::~Batch() {
+    if (!done_)
+        connection_->endBatch(false);
+}
+
+void Batch::commit() {
+    done_ = true;
+    connection_->endBatch(true);
+}
+
+Connection::Connection(const QString& file, QString shownName) : shownName_(std::move(shownName)) {
+    guarded([&] {
+        sqlite_ = std::make_unique<SQLite::Database>(file.toStdString(), SQLite::OPEN_READWRITE, busyTimeout);
+    });
+}
+
+Connection::~Connection() = default;
+
+std::shared_ptr<const TableShape> Connection::shape(const QString& table) {
+    const QString key = table.toLower();
+    if (const auto known = shapes_.constFind(key); known != shapes_.constEnd())
+        return *known;
+    auto shape = std::make_shared<TableShape>();
+    shape->name = table;
+    const auto columns = prepare(QStringLiteral("SELECT name FROM pragma_table_info('%1')").arg(table));
+    guarded([&] {
+        while (columns->executeStep()) {
+            const QString column = QString::fromUtf8(columns->getColumn(0).getText());
+            shape->indexByLowerName.insert(column.toLower(), static_cast<int>(shape->columns.size()));
+            shape->columns.append(column);
+        }
+    });
+    if (shape->columns.isEmpty())
+        throw RuntimeError(Fault::TableNotFound,
+                           QStringLiteral("'%1' has no table '%2'.").arg(shownName_, table));
+    shapes_.insert(key, shape);
+    return shape;
+}
+
+std::shared_ptr<SQLite::Statement> Connection::prepare(const QString& sql) {
+    return guarded([&] {
+        if (const auto known = statements_.constFind(sql); known != statements_.constEnd()) {
+            (*known)->reset();
+            return *known;
+        }
+        auto statement = std::make_shared<SQLite::Statement>(*sqlite_, sql.toStdString());
+        statements_.insert(sql, statement);
+        return statement;
+    });
+}
+
+int Connection::totalChanges() const {
+    return sqlite3_total_changes(sqlite_->getHandle());
+}
+
+void Connection::beginBatch() {
+    if (batchDepth_ == 0) {
+        guarded([&] { sqlite_->exec("BEGIN IMMEDIATE"); });
+        batchFailed_ = false;
+    }
+    ++batchDepth_;
+}
+
+void Connection::endBatch(bool keep) {
+    batchFailed_ = batchFailed_ || !keep;
+    if (--batchDepth_ > 0)
+        return;
+    if (batchFailed_) {
+        // A failed statement may have rolled back by itself; a second rollback is then refused, rightly.
+        sqlite_->tryExec("ROLLBACK");
+        return;
+    }
+    guarded([&] { sqlite_->exec("COMMIT"); });
+}
+
+void Connection::translate(const SQLite::Exception& failure) const {
+    const QString reason = QString::fromUtf8(failure.what());
+    switch (failure.getErrorCode()) {
+        case SQLITE_CORRUPT:
+        case SQLITE_NOTADB:
+            throw RuntimeError(Fault::UnrecognizedFormat,
+                               QStringLiteral("'%1' is damaged (%2).").arg(shownName_, reason));
+        case SQLITE_ERROR:
+            if (reason.startsWith(QStringLiteral("no such column")))
+                throw RuntimeError(Fault::ItemNotFound, QStringLiteral("'%1': %2.").arg(shownName_, reason));
+            if (reason.startsWith(QStringLiteral("no such table")))
+                throw RuntimeError(Fault::TableNotFound, QStringLiteral("'%1': %2.").arg(shownName_, reason));
+            throw RuntimeError(Fault::SyntaxError,
+                               QStringLiteral("Syntax error in expression on '%1': %2.").arg(shownName_, reason));
+        default:
+            throw RuntimeError(Fault::DatabaseFailure,
+                               QStringLiteral("'%1' cannot be used: %2.").arg(shownName_, reason));
+    }
+}
+
+}  // namespace platform

@@ -1,0 +1,101 @@
+#pragma once
+
+#include <QHash>
+#include <QString>
+#include <QStringList>
+
+#include <memory>
+
+namespace SQLite {
+class Database;
+class Exception;
+class Statement;
+}  // namespace SQLite
+
+namespace platform {
+
+class Connection;
+class Recordset;
+
+/// What a file under a store's name holds, told by its first bytes.
+enum class StoreFormat { Missing, Store, AccessFile, Unknown };
+StoreFormat storeFormat(const QString& file);
+
+/// A handle on one store. Handles on the same file share one connection, so that they never wait for each
+/// other; the file closes with the last handle or record set on it.
+class Database {
+   public:
+    Database() = default;
+
+    /// Opens an existing store. `shownName` is the path that messages name. Throws DatabaseNotFound for a
+    /// missing file and UnrecognizedFormat for one that is no store, a genuine Access file being told as such.
+    static Database open(const QString& file, const QString& shownName);
+
+    bool isOpen() const { return connection_ != nullptr; }
+    /// Opens an updatable set of rows from `Select * from T [where C] [order by O]`, positioned at its first
+    /// row. Throws SyntaxError, TableNotFound or ItemNotFound.
+    Recordset openRecordset(const QString& sql) const;
+    /// Lets the handle go; an unopened one stays as it is.
+    void close() { connection_.reset(); }
+
+   private:
+    friend class Batch;
+    std::shared_ptr<Connection> connection_;
+};
+
+/// Makes a run of edits one transaction: all of them are stored when `commit` returns, none of them where
+/// the run is left by an error. Batches nest; the outermost one stores.
+class Batch {
+   public:
+    explicit Batch(const Database& database);
+    ~Batch();
+    Batch(const Batch&) = delete;
+    Batch& operator=(const Batch&) = delete;
+
+    /// Throws DatabaseFailure when the store cannot be written.
+    void commit();
+
+   private:
+    std::shared_ptr<Connection> connection_;
+    bool done_ = false;
+};
+
+/// Columns of a table in their stored order.
+struct TableShape {
+    QString name;
+    QStringList columns;
+    QHash<QString, int> indexByLowerName;
+};
+
+/// The open file behind handles and record sets.
+class Connection {
+   public:
+    Connection(const QString& file, QString shownName);
+    ~Connection();
+
+    const QString& shownName() const { return shownName_; }
+    SQLite::Database& sqlite() { return *sqlite_; }
+    /// Throws TableNotFound.
+    std::shared_ptr<const TableShape> shape(const QString& table);
+    /// A prepared statement, kept for the next use of the same text and reset. Throws as `translate` tells.
+    std::shared_ptr<SQLite::Statement> prepare(const QString& sql);
+    /// Runs `work` and turns what the engine throws into a RuntimeError that names the store.
+    template <typename Work>
+    auto guarded(Work work) -> decltype(work());
+    int totalChanges() const;
+
+    void beginBatch();
+    void endBatch(bool keep);
+
+   private:
+    [[noreturn]] void translate(const SQLite::Exception& failure) const;
+
+    QString shownName_;
+    std::unique_ptr<SQLite::Database> sqlite_;
+    QHash<QString, std::shared_ptr<SQLite::Statement>> statements_;
+    QHash<QString, std::shared_ptr<const TableShape>> shapes_;
+    int batchDepth_ = 0;
+    bool batchFailed_ = false;
+};
+
+}  // namespace platform

@@ -1,0 +1,184 @@
+#include "platform/form.h"
+
+#include <QCloseEvent>
+#include <QGuiApplication>
+#include <QMouseEvent>
+#include <QPainter>
+#include <QScreen>
+
+#include <algorithm>
+
+namespace platform {
+
+namespace {
+
+QRect screenRect() {
+    return QGuiApplication::primaryScreen()->geometry();
+}
+
+}  // namespace
+
+Frame::Frame(const QString& name) : QWidget(nullptr, Qt::FramelessWindowHint) {
+    setObjectName(name);
+    setAccessibleName(QStringLiteral("Course backdrop"));
+}
+
+void Frame::setPicture(const QPixmap& picture, const QString& fileName) {
+    picture_ = picture;
+    setProperty("picture", fileName);
+    update();
+}
+
+void Frame::paintEvent(QPaintEvent*) {
+    QPainter painter(this);
+    painter.setRenderHint(QPainter::SmoothPixmapTransform);
+    if (picture_.isNull())
+        painter.fillRect(rect(), palette().window());
+    else
+        painter.drawPixmap(rect(), picture_);
+}
+
+void Frame::closeEvent(QCloseEvent* event) {
+    event->ignore();
+    if (onCloseRequest)
+        onCloseRequest();
+}
+
+Form::Form(const QString& name, QSize designSize, QWidget* frame)
+    : QWidget(frame, Qt::Dialog | Qt::FramelessWindowHint), designSize_(designSize) {
+    setObjectName(name);
+    setWindowModality(Qt::ApplicationModal);
+    setMouseTracking(true);
+    const QRect screen = screenRect();
+    scale_ = std::min({1.0, static_cast<double>(screen.width()) / designSize.width(),
+                       static_cast<double>(screen.height()) / designSize.height()});
+    const QSize size(qRound(designSize.width() * scale_), qRound(designSize.height() * scale_));
+    setFixedSize(size);
+    move(screen.x() + (screen.width() - size.width()) / 2, screen.y() + (screen.height() - size.height()) / 2);
+}
+
+Form::~Form() = default;
+
+QRect Form::scaled(const QRect& r) const {
+    const QPoint topLeft(qRound(r.left() * scale_), qRound(r.top() * scale_));
+    const QPoint end(qRound((r.left() + r.width()) * scale_), qRound((r.top() + r.height()) * scale_));
+    return {topLeft, QSize(end.x() - topLeft.x(), end.y() - topLeft.y())};
+}
+
+void Form::place(QWidget& control, const QRect& designRect) {
+    control.setProperty("designRect", designRect);
+    control.setGeometry(scaled(designRect));
+}
+
+void Form::movePlace(QWidget& control, int left, int top) {
+    place(control, QRect(QPoint(left, top), placeOf(control).size()));
+}
+
+QRect Form::placeOf(const QWidget& control) const {
+    return control.property("designRect").toRect();
+}
+
+void Form::setBackground(const QPixmap& picture, const QString& fileName) {
+    const qreal ratio = devicePixelRatioF();
+    const QSize pixels = size() * ratio;
+    background_ = picture.size() == pixels ? picture
+                                           : picture.scaled(pixels, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
+    background_.setDevicePixelRatio(ratio);
+    setProperty("picture", fileName);
+    update();
+}
+
+Label& Form::addLabel(const QString& name, const QRect& designRect, TextRole role, const QString& caption) {
+    auto* label = new Label(this);
+    label->setObjectName(name);
+    label->setFont(roleFont(role, scale_));
+    label->setCaption(caption);
+    place(*label, designRect);
+    return *label;
+}
+
+TextBox& Form::addTextBox(const QString& name, const QRect& designRect, TextRole role) {
+    auto* box = new TextBox(this);
+    box->setObjectName(name);
+    box->setFont(roleFont(role, scale_));
+    box->setAlignment(Qt::AlignCenter);
+    place(*box, designRect);
+    return *box;
+}
+
+StoryBox& Form::addStoryBox(const QString& name, const QRect& designRect) {
+    auto* box = new StoryBox(this);
+    box->setObjectName(name);
+    box->setFont(roleFont(TextRole::Body, scale_));
+    place(*box, designRect);
+    return *box;
+}
+
+PictureButton& Form::addPictureButton(const QString& name, const QRect& designRect, const QString& spokenName) {
+    auto* button = new PictureButton(this);
+    button->setObjectName(name);
+    button->setAccessibleName(spokenName);
+    place(*button, designRect);
+    return *button;
+}
+
+CommandButton& Form::addButton(const QString& name, const QRect& designRect, const QString& caption) {
+    auto* button = new CommandButton(caption, this);
+    button->setObjectName(name);
+    button->setFont(roleFont(TextRole::Caption, scale_));
+    place(*button, designRect);
+    return *button;
+}
+
+Label& Form::addLabel(ControlArray<Label>& array, const QRect& designRect, TextRole role) {
+    Label& label = addLabel(array.memberName(array.size()), designRect, role);
+    array.add(&label);
+    return label;
+}
+
+TextBox& Form::addTextBox(ControlArray<TextBox>& array, const QRect& designRect, TextRole role) {
+    TextBox& box = addTextBox(array.memberName(array.size()), designRect, role);
+    array.add(&box);
+    return box;
+}
+
+CommandButton& Form::addButton(ControlArray<CommandButton>& array, const QRect& designRect, const QString& caption) {
+    CommandButton& button = addButton(array.memberName(array.size()), designRect, caption);
+    array.add(&button);
+    return button;
+}
+
+void Form::unload() {
+    if (unloaded_)
+        return;
+    unloaded_ = true;
+    hide();
+    // Without a window manager nobody hands the keyboard back to the window below.
+    if (parentWidget() != nullptr)
+        parentWidget()->window()->activateWindow();
+    deleteLater();
+    if (onUnload)
+        onUnload();
+}
+
+void Form::paintEvent(QPaintEvent*) {
+    QPainter painter(this);
+    if (background_.isNull())
+        painter.fillRect(rect(), palette().window());
+    else
+        painter.drawPixmap(0, 0, background_);
+}
+
+void Form::mouseMoveEvent(QMouseEvent* event) {
+    event->accept();
+    if (onMouseMove)
+        onMouseMove();
+}
+
+void Form::closeEvent(QCloseEvent* event) {
+    event->ignore();
+    if (onCloseRequest)
+        onCloseRequest();
+}
+
+}  // namespace platform

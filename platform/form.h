@@ -1,0 +1,86 @@
+#pragma once
+
+#include "platform/controls.h"
+#include "platform/control_array.h"
+
+#include <QPixmap>
+#include <QWidget>
+
+#include <functional>
+
+namespace platform {
+
+/// The full-screen backdrop behind every form, so that the learner's desktop never shows.
+class Frame : public QWidget {
+    Q_OBJECT
+   public:
+    explicit Frame(const QString& name);
+
+    /// Fills the frame with a picture, stretched.
+    void setPicture(const QPixmap& picture, const QString& fileName);
+
+    /// The window manager was asked to close the frame.
+    std::function<void()> onCloseRequest;
+
+   protected:
+    void paintEvent(QPaintEvent* event) override;
+    void closeEvent(QCloseEvent* event) override;
+
+   private:
+    QPixmap picture_;
+};
+
+/// A screen: a window of a fixed design size, centred over the frame and scaled down, everything with it,
+/// where the screen is smaller. Positions are given in design pixels.
+class Form : public QWidget {
+    Q_OBJECT
+   public:
+    Form(const QString& name, QSize designSize, QWidget* frame);
+    ~Form() override;
+
+    QSize designSize() const { return designSize_; }
+    double scale() const { return scale_; }
+
+    void place(QWidget& control, const QRect& designRect);
+    void movePlace(QWidget& control, int left, int top);
+    /// The place of a control in design pixels.
+    QRect placeOf(const QWidget& control) const;
+
+    /// Fills the form with a picture; the property `picture` keeps its file name.
+    void setBackground(const QPixmap& picture, const QString& fileName);
+
+    Label& addLabel(const QString& name, const QRect& designRect, TextRole role, const QString& caption = {});
+    TextBox& addTextBox(const QString& name, const QRect& designRect, TextRole role);
+    StoryBox& addStoryBox(const QString& name, const QRect& designRect);
+    PictureButton& addPictureButton(const QString& name, const QRect& designRect, const QString& spokenName);
+    CommandButton& addButton(const QString& name, const QRect& designRect, const QString& caption);
+    /// Adds the next member of an array.
+    Label& addLabel(ControlArray<Label>& array, const QRect& designRect, TextRole role);
+    TextBox& addTextBox(ControlArray<TextBox>& array, const QRect& designRect, TextRole role);
+    CommandButton& addButton(ControlArray<CommandButton>& array, const QRect& designRect, const QString& caption);
+
+    /// Takes the form off the screen for good. The object goes when the event in hand is done.
+    void unload();
+    bool isUnloaded() const { return unloaded_; }
+
+    std::function<void()> onMouseMove;
+    /// The window manager was asked to close the form.
+    std::function<void()> onCloseRequest;
+    /// Called once, from unload.
+    std::function<void()> onUnload;
+
+   protected:
+    void paintEvent(QPaintEvent* event) override;
+    void mouseMoveEvent(QMouseEvent* event) override;
+    void closeEvent(QCloseEvent* event) override;
+
+   private:
+    QRect scaled(const QRect& designRect) const;
+
+    QSize designSize_;
+    double scale_ = 1.0;
+    bool unloaded_ = false;
+    QPixmap background_;
+};
+
+}  // namespace platform

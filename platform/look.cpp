@@ -1,0 +1,62 @@
+#include "platform/look.h"
+
+#include <QApplication>
+#include <QPalette>
+#include <QStringList>
+
+#include <algorithm>
+#include <array>
+
+namespace platform {
+
+namespace {
+
+struct RoleLook {
+    TextRole role;
+    int pixels;
+    bool bold;
+};
+
+constexpr std::array looks{
+    RoleLook{TextRole::Title, 24, true},    RoleLook{TextRole::Heading, 17, true},
+    RoleLook{TextRole::Body, 14, false},    RoleLook{TextRole::Small, 12, false},
+    RoleLook{TextRole::Caption, 13, true},  RoleLook{TextRole::Prompt, 14, false},
+    RoleLook{TextRole::Answer, 14, true},   RoleLook{TextRole::Sentence, 24, false},
+    RoleLook{TextRole::Choice, 19, true},   RoleLook{TextRole::Letter, 22, true},
+    RoleLook{TextRole::Meaning, 28, true},
+};
+
+QString koreanFamily() {
+    return QStringLiteral("맑은 고딕");
+}
+
+}  // namespace
+
+QFont roleFont(TextRole role, double scale) {
+    const auto look = std::find_if(looks.begin(), looks.end(), [&](const RoleLook& l) { return l.role == role; });
+    QFont font(koreanFamily());
+    font.setPixelSize(std::max(8, qRound(look->pixels * scale)));
+    font.setBold(look->bold);
+    return font;
+}
+
+void setUpLook() {
+    const QStringList families{QStringLiteral("NanumGothic"), QStringLiteral("Noto Sans CJK KR")};
+    QFont::insertSubstitutions(koreanFamily(), families);
+    QFont::insertSubstitutions(QStringLiteral("Tahoma"), families);
+    QApplication::setStyle(QStringLiteral("Fusion"));
+    QFont font(koreanFamily());
+    font.setPixelSize(14);
+    QApplication::setFont(font);
+    QPalette palette(QColor::fromRgb(0xffe9e5da));
+    palette.setColor(QPalette::Window, QColor::fromRgb(colour::paper));
+    palette.setColor(QPalette::Base, Qt::white);
+    palette.setColor(QPalette::Text, Qt::black);
+    palette.setColor(QPalette::WindowText, Qt::black);
+    palette.setColor(QPalette::ButtonText, Qt::black);
+    palette.setColor(QPalette::Highlight, QColor::fromRgb(colour::accent));
+    palette.setColor(QPalette::HighlightedText, Qt::white);
+    QApplication::setPalette(palette);
+}
+
+}  // namespace platform

@@ -1,0 +1,59 @@
+#include "platform/sound.h"
+
+#include "platform/sound_interface.h"
+
+#include <QCoreApplication>
+#include <QEventLoop>
+#include <QFileInfo>
+#include <QLibrary>
+#include <QTimer>
+
+namespace platform {
+
+namespace {
+
+// How often the end of a sound that is waited for is asked for, in milliseconds.
+constexpr int pollInterval = 5;
+
+}  // namespace
+
+struct DeviceSound::Module {
+    QLibrary library;
+    SoundPlayFunction play = nullptr;
+    SoundPlayingFunction playing = nullptr;
+    SoundCloseFunction close = nullptr;
+
+    Module() : library(QCoreApplication::applicationDirPath() + QStringLiteral("/mendori_sound")) {
+        play = reinterpret_cast<SoundPlayFunction>(library.resolve(soundPlayName));
+        playing = reinterpret_cast<SoundPlayingFunction>(library.resolve(soundPlayingName));
+        close = reinterpret_cast<SoundCloseFunction>(library.resolve(soundCloseName));
+    }
+    ~Module() {
+        if (close != nullptr)
+            close();
+    }
+    bool usable() const { return play != nullptr && playing != nullptr && close != nullptr; }
+};
+
+DeviceSound::DeviceSound() = default;
+DeviceSound::~DeviceSound() = default;
+
+void DeviceSound::play(const QString& file, bool wait) {
+    if (!QFileInfo(file).isFile())
+        return;
+    if (!module_)
+        module_ = std::make_unique<Module>();
+    if (!module_->usable() || !module_->play(file.toUtf8().constData()) || !wait)
+        return;
+    // The window keeps painting while a word is spoken, but the learner's clicks and keys wait their turn.
+    QEventLoop loop;
+    QTimer poll;
+    QObject::connect(&poll, &QTimer::timeout, &loop, [&] {
+        if (!module_->playing())
+            loop.quit();
+    });
+    poll.start(pollInterval);
+    loop.exec(QEventLoop::ExcludeUserInputEvents);
+}
+
+}  // namespace platform

@@ -1,0 +1,67 @@
+#include <SDL.h>
+#include <SDL_mixer.h>
+
+#include <map>
+#include <string>
+
+namespace {
+
+constexpr int channel = 0;
+constexpr std::size_t keptSounds = 64;
+
+struct Device {
+    bool open = false;
+    std::map<std::string, Mix_Chunk*> sounds;
+
+    Device() {
+        SDL_SetMainReady();
+        open = SDL_InitSubSystem(SDL_INIT_AUDIO) == 0 &&
+               Mix_OpenAudio(MIX_DEFAULT_FREQUENCY, MIX_DEFAULT_FORMAT, 2, 1024) == 0;
+    }
+    void forget() {
+        Mix_HaltChannel(channel);
+        for (const auto& [file, sound] : sounds)
+            Mix_FreeChunk(sound);
+        sounds.clear();
+    }
+    Mix_Chunk* load(const std::string& file) {
+        if (const auto known = sounds.find(file); known != sounds.end())
+            return known->second;
+        if (sounds.size() >= keptSounds)
+            forget();
+        Mix_Chunk* sound = Mix_LoadWAV(file.c_str());
+        if (sound != nullptr)
+            sounds.emplace(file, sound);
+        return sound;
+    }
+};
+
+Device& device() {
+    static Device shared;
+    return shared;
+}
+
+}  // namespace
+
+extern "C" {
+
+__attribute__((visibility("default"))) bool mendori_sound_play(const char* utf8File) {
+    if (!device().open)
+        return false;
+    Mix_Chunk* sound = device().load(utf8File);
+    return sound != nullptr && Mix_PlayChannel(channel, sound, 0) >= 0;
+}
+
+__attribute__((visibility("default"))) bool mendori_sound_playing() {
+    return device().open && Mix_Playing(channel) != 0;
+}
+
+__attribute__((visibility("default"))) void mendori_sound_close() {
+    if (!device().open)
+        return;
+    device().forget();
+    Mix_CloseAudio();
+    SDL_QuitSubSystem(SDL_INIT_AUDIO);
+    device().open = false;
+}
+}
