@@ -1,0 +1,36 @@
+#include "core/screen.h"
+
+#include "core/stores.h"
+#include "platform/cursor.h"
+#include "platform/picture.h"
+
+namespace core {
+
+Screen::Screen(Context& context, const QString& name, QSize designSize)
+    : Form(name, designSize, context.frame), context_(context) {
+    onCloseRequest = [this] { endProgram(); };
+}
+
+void Screen::loadBackground(const QString& relativePath) {
+    const auto picture = applicationFile(context_, relativePath);
+    setBackground(platform::loadPicture(picture.file, picture.shownName, devicePixelRatioF() * scale()),
+                  picture.shownName);
+}
+
+void Screen::loadPicture(platform::PictureButton& button, const QString& relativePath) {
+    const auto picture = applicationFile(context_, relativePath);
+    button.setPicture(platform::loadPicture(picture.file, picture.shownName, devicePixelRatioF() * scale()),
+                      picture.shownName);
+}
+
+void Screen::setHandCursor(QWidget& control, const QString& file) {
+    const auto picture = applicationFile(context_, file);
+    control.setCursor(platform::loadCursor(picture.file, picture.shownName));
+}
+
+void Screen::endProgram() {
+    context_.session.closeDictionary();
+    context_.navigator.endProgram();
+}
+
+}  // namespace core

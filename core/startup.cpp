@@ -1,0 +1,149 @@
+#include "core/startup.h"
+
+#include "core/stores.h"
+#include "platform/picture.h"
+
+#include <QGuiApplication>
+#include <QScreen>
+#include <QStandardPaths>
+
+#include <array>
+
+namespace core {
+
+namespace {
+
+const QString application = QStringLiteral("Mendori");
+const QString generalSection = QStringLiteral("General Information");
+const QString platformSection = QStringLiteral("Platform");
+
+constexpr std::array mediaDrives{"C:", "D:", "E:", "F:", "G:", "H:"};
+
+void findMedia(const Context& context) {
+    for (const char* drive : mediaDrives) {
+        const QString marker = QLatin1String(drive) + QStringLiteral("\\A_Mendori\\ABCPicture\\Mendori.jpg");
+        if (FileExists(context, marker) == 1) {
+            context.session.mediaDrive = QLatin1String(drive);
+            return;
+        }
+    }
+    context.boxes.show({QStringLiteral("Please Insert USB Drive"), platform::BoxIcon::Stop, {}, false});
+}
+
+void openDictionary(const Context& context) {
+    Session& session = context.session;
+    session.dictionaryDb = openStore(context, mainFolder + QStringLiteral("dicword.mdb"));
+    session.allwordRs = session.dictionaryDb.openRecordset(QStringLiteral("Select * from allword order by word"));
+    session.dicwordRs = session.dictionaryDb.openRecordset(QStringLiteral("Select * from dicword order by word"));
+}
+
+void readIdentity(const Context& context) {
+    const auto read = [&](const char* key) {
+        return context.settings.read(application, generalSection, QLatin1String(key), QString());
+    };
+    context.session.userId = read("UserID");
+    context.session.teacherMode = read("Teacher");
+    context.session.userName = read("Name");
+}
+
+void setFolders(const Context& context) {
+    Session& session = context.session;
+    const QString folder = context.applicationFolder;
+    session.appSoundDir = folder + QStringLiteral("\\Sound\\");
+    session.recordDir = folder + QStringLiteral("\\MyRecord\\");
+    session.appDir = folder + u'\\';
+    session.appPictureDir = folder + QStringLiteral("\\ABCPicture\\");
+    session.mediaSoundDir = session.mediaDrive + QStringLiteral("\\A_Mendori\\ABCSound\\");
+    session.videoRoot = session.mediaDrive + QStringLiteral("\\A_Mendori\\Mendori_Program\\Tovalin1_Video\\");
+    session.frameLeft = 0;
+    session.frameTop = 0;
+}
+
+void writeVersion(const Context& context) {
+    auto database = openStore(context, mainFolder + QStringLiteral("Pversion_2026.mdb"));
+    auto rows = database.openRecordset(QStringLiteral("Select * From pversion"));
+    rows.findFirst(QStringLiteral("Program='Tovalin1'"));
+    if (rows.noMatch()) {
+        rows.addNew();
+        rows.set(QStringLiteral("program"), QStringLiteral("Tovalin1"));
+    } else {
+        rows.edit();
+    }
+    rows.set(QStringLiteral("pVersion"), 1);
+    rows.update();
+    rows.close();
+    database.close();
+}
+
+}  // namespace
+
+int FileExists(const Context& context, const QString& path) {
+    return context.drives.fileLength(path) > 0 ? 1 : 0;
+}
+
+QString applicationFolder(const platform::Settings& settings, const platform::Drives& drives) {
+    const QString stored = settings.read(application, platformSection, QStringLiteral("ApplicationFolder"), QString());
+    if (!stored.isEmpty())
+        return stored;
+    for (const char* drive : {"D:", "E:", "F:", "G:", "H:", "C:"}) {
+        const QString root = QLatin1String(drive) + QStringLiteral("\\");
+        if (drives.fileLength(root + QStringLiteral("tovalin.mdb")) > 0)
+            return root;
+    }
+    return QStringLiteral("D:\\");
+}
+
+QString drivesRoot(const platform::Settings& settings) {
+    const QString fromEnvironment = qEnvironmentVariable("MENDORI_ROOT");
+    if (!fromEnvironment.isEmpty())
+        return fromEnvironment;
+    const QString stored = settings.read(application, platformSection, QStringLiteral("Root"), QString());
+    if (!stored.isEmpty())
+        return stored;
+#ifdef Q_OS_WIN
+    return {};
+#else
+    return QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation) + QStringLiteral("/mendori");
+#endif
+}
+
+void ShowMainFrame(const Context& context, platform::Frame& frame) {
+    const Session& session = context.session;
+    const auto picture = applicationFile(context, QStringLiteral("interface\\frame.jpg"));
+    if (context.drives.fileLength(picture.shownName) > 0)
+        frame.setPicture(platform::loadPicture(picture.file, picture.shownName, 1.0), QStringLiteral("frame.jpg"));
+    // Without a window manager a full-screen request changes nothing, so the size is set first.
+    frame.setGeometry(session.frameLeft, session.frameTop, session.screenWidthPx, session.screenHeightPx);
+    frame.showFullScreen();
+    QCoreApplication::processEvents();
+}
+
+bool StartUp(const Context& context, platform::Frame& frame) {
+    Session& session = context.session;
+    findMedia(context);
+    session.mediaPictureDir = session.mediaDrive + QStringLiteral("\\A_Mendori\\ABCPicture\\");
+    session.mediaSoundDirFirst = session.mediaDrive + QStringLiteral("\\A_Mendori\\ABCSound\\");
+    session.mediaSoundDir = session.mediaSoundDirFirst;
+    session.today = context.clock.today();
+    openDictionary(context);
+    readIdentity(context);
+    if (session.userId.isEmpty()) {
+        context.boxes.show({QStringLiteral("Log In Required."), platform::BoxIcon::Stop, {}, false});
+        return false;
+    }
+    session.scoreDb = openScores(context);
+    session.scoreRs = session.scoreDb.openRecordset(QStringLiteral("Select * From score"));
+    frame.setWindowTitle(QStringLiteral("Tovalin 1"));
+    setFolders(context);
+    const QSize screen = QGuiApplication::primaryScreen()->geometry().size();
+    session.screenWidthPx = screen.width();
+    session.screenHeightPx = screen.height();
+    ShowMainFrame(context, frame);
+    session.vocaFirst = QStringLiteral("YES");
+    session.programCode = QStringLiteral("Tovalin1");
+    writeVersion(context);
+    context.navigator.open(QStringLiteral("frmLogIn2"));
+    return true;
+}
+
+}  // namespace core
