@@ -1,0 +1,26 @@
+#include "app/screens.h"
+
+#include "core/login_panel.h"
+#include "core/study_time.h"
+#include "course/course_table.h"
+
+namespace app {
+
+namespace {
+
+template <typename Screen>
+ScreenMaker maker() {
+    return [](core::Context& context) { return new Screen(context); };
+}
+
+}  // namespace
+
+ScreenMakers allScreens() {
+    ScreenMakers makers;
+    makers.insert(QStringLiteral("frmLogIn2"), maker<core::LoginPanel>());
+    makers.insert(QStringLiteral("frmTime"), maker<core::StudyTime>());
+    makers.insert(QStringLiteral("frmTable"), maker<course::CourseTable>());
+    return makers;
+}
+
+}  // namespace app
