@@ -3,6 +3,7 @@
 #include "core/login_panel.h"
 #include "core/study_time.h"
 #include "course/course_table.h"
+#include "worksheets/worksheet_menu.h"
 
 namespace app {
 
@@ -20,6 +21,7 @@ ScreenMakers allScreens() {
     makers.insert(QStringLiteral("frmLogIn2"), maker<core::LoginPanel>());
     makers.insert(QStringLiteral("frmTime"), maker<core::StudyTime>());
     makers.insert(QStringLiteral("frmTable"), maker<course::CourseTable>());
+    makers.insert(QStringLiteral("frmWorkSheet"), maker<worksheets::WorksheetMenu>());
     return makers;
 }
 

@@ -41,8 +41,7 @@ void addGuide(ReportBlock& block, const QString& guide, const ReportStyle& style
         return;
     const double indent = millimetres(4);
     const double pitch = pointsOnPage(style.points) * 1.55;
-    int none = 0;
-    const auto lines = flowLines(flowWords(guide, style, 0, none), width - indent);
+    const auto lines = flowLines(flowWords(guide, {style.points, style.points, style.bold}), width - indent);
     const double top = block.height + millimetres(1.5);
     double baseLine = top;
     for (const FlowLine& line : lines) {
@@ -148,9 +147,8 @@ ReportBlock groupBlock(const ReportTemplate& report, const QString& text, double
     ReportBlock block;
     const ReportStyle style{report.sizes.group, true};
     const double pitch = pointsOnPage(style.points) * 1.5;
-    int none = 0;
     double baseLine = millimetres(1);
-    for (const FlowLine& line : flowLines(flowWords(text, style, 0, none), width)) {
+    for (const FlowLine& line : flowLines(flowWords(text, {style.points, style.points, style.bold}), width)) {
         baseLine += pitch;
         for (const FlowBit& bit : line.bits)
             addText(block, PieceRole::GroupHead, bit.left, baseLine - pitch * 0.25, bit.text, bit.style);

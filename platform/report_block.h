@@ -23,6 +23,7 @@ struct ItemContent {
     std::vector<QString> answers;
     std::vector<QString> words;
     std::vector<QString> masks;
+    bool lettersShown = false;
 
     /// An item without anything to ask prints nothing, not even its number.
     bool isEmpty() const;
@@ -37,6 +38,7 @@ struct ItemMeasures {
     double blankWidth = 0;   // of a blank inside a question
     int lines = 1;           // writing lines of a question without blanks
     double lineWidth = 0;    // of a writing line beside a question
+    double lineLeft = 0;     // where the first of these begins
     bool beside = true;      // whether the lines stand beside the question or under it
 };
 

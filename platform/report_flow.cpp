@@ -14,6 +14,10 @@ namespace {
 
 constexpr double slack = 1.0;
 
+double spaceWidth(const ReportStyle& style) {
+    return textWidth(QStringLiteral(" "), style);
+}
+
 void append(FlowLine& line, const FlowBit& bit, double left) {
     FlowBit placed = bit;
     placed.left = left;
@@ -59,6 +63,20 @@ std::vector<FlowWord> cutWord(const FlowWord& word, double width) {
     return pieces;
 }
 
+/// Words as one that is not broken, the spaces between them part of its texts.
+FlowWord glued(std::vector<FlowWord>::const_iterator first, std::vector<FlowWord>::const_iterator end) {
+    FlowWord whole = *first;
+    for (auto word = first + 1; word != end; ++word) {
+        FlowBit& last = whole.bits.back();
+        last.text += QString(qRound(whole.spaceAfter / spaceWidth(last.style)), u' ');
+        last.width += whole.spaceAfter;
+        whole.bits.insert(whole.bits.end(), word->bits.begin(), word->bits.end());
+        whole.width += whole.spaceAfter + word->width;
+        whole.spaceAfter = word->spaceAfter;
+    }
+    return whole;
+}
+
 /// Joins neighbouring texts of one style, the spaces between them included.
 void joinTexts(FlowLine& line) {
     std::vector<FlowBit> joined;
@@ -71,7 +89,7 @@ void joinTexts(FlowLine& line) {
         }
         FlowBit& last = joined.back();
         const double gap = bit.left - last.left - last.width;
-        last.text += QString(qRound(gap / textWidth(QStringLiteral(" "), bit.style)), u' ') + bit.text;
+        last.text += QString(qRound(gap / spaceWidth(bit.style)), u' ') + bit.text;
         last.width = bit.left + bit.width - last.left;
     }
     line.bits = std::move(joined);
@@ -97,26 +115,19 @@ double textWidth(const QString& text, const ReportStyle& style) {
     return metrics->second.horizontalAdvance(text);
 }
 
-bool isKorean(const QString& text) {
-    int hangul = 0;
-    int latin = 0;
-    for (const QChar letter : text) {
-        hangul += letter.script() == QChar::Script_Hangul ? 1 : 0;
-        latin += letter.script() == QChar::Script_Latin ? 1 : 0;
-    }
-    // A syllable says as much as two Latin letters.
-    return 2 * hangul > latin;
+ReportStyle TextSizes::styleOf(const QString& word) const {
+    const bool hangul = std::any_of(word.begin(), word.end(),
+                                    [](QChar letter) { return letter.script() == QChar::Script_Hangul; });
+    return {hangul ? korean : english, bold};
 }
 
 bool FlowLine::hasBlank() const {
     return std::any_of(bits.begin(), bits.end(), [](const FlowBit& bit) { return bit.blank >= 0; });
 }
 
-std::vector<FlowWord> flowWords(const QString& text, const ReportStyle& style, double blankWidth,
-                                int& firstBlank) {
+std::vector<FlowWord> flowWords(const QString& text, const TextSizes& sizes, double blankWidth, int& firstBlank) {
     std::vector<FlowWord> words;
     FlowWord word;
-    const double space = textWidth(QStringLiteral(" "), style);
     const auto add = [&word](FlowBit bit) {
         word.width += bit.width;
         word.bits.push_back(std::move(bit));
@@ -125,33 +136,63 @@ std::vector<FlowWord> flowWords(const QString& text, const ReportStyle& style, d
         if (!word.bits.empty())
             words.push_back(word);
         word = {};
+        if (!words.empty())
+            words.back().spaceAfter += spaceWidth(words.back().bits.back().style);
     };
     for (const ReportStretch& stretch : cutAtBlanks(text)) {
         if (stretch.blank) {
-            add({{}, style, firstBlank++, 0, blankWidth});
+            add({{}, {sizes.english, sizes.bold}, firstBlank++, 0, blankWidth});
             continue;
         }
         const QStringList parts = stretch.text.split(u' ');
         for (qsizetype i = 0; i < parts.size(); ++i) {
-            if (i > 0) {
+            if (i > 0)
                 end();
-                if (!words.empty())
-                    words.back().spaceAfter += space;
-            }
+            const ReportStyle style = sizes.styleOf(parts[i]);
             if (!parts[i].isEmpty())
                 add({parts[i], style, -1, 0, textWidth(parts[i], style)});
         }
     }
     end();
+    if (!words.empty())
+        words.back().spaceAfter = 0;
     return words;
 }
 
-std::vector<FlowWord> flowWhole(const QString& text, const ReportStyle& style, double lineWidth) {
-    const double width = textWidth(text, style);
-    if (width <= lineWidth)
-        return {{{{text, style, -1, 0, width}}, width, 0}};
+std::vector<FlowWord> flowWords(const QString& text, const TextSizes& sizes) {
     int none = 0;
-    return flowWords(text, style, 0, none);
+    return flowWords(text, sizes, 0, none);
+}
+
+double flowWidth(const std::vector<FlowWord>& words) {
+    double width = 0;
+    for (const FlowWord& word : words)
+        width += word.width + word.spaceAfter;
+    return width;
+}
+
+std::vector<FlowWord> flowWhole(const QString& text, const TextSizes& sizes, double lineWidth) {
+    const auto words = flowWords(text, sizes);
+    if (words.empty() || flowWidth(words) > lineWidth)
+        return words;
+    return {glued(words.begin(), words.end())};
+}
+
+std::vector<FlowWord> keepBrackets(const std::vector<FlowWord>& words, double most) {
+    std::vector<FlowWord> kept;
+    for (auto word = words.begin(); word != words.end(); ++word) {
+        auto end = word + 1;
+        if (word->bits.front().text.startsWith(u'(') && !word->bits.back().text.contains(u')')) {
+            const auto closing = std::find_if(end, words.end(), [](const FlowWord& w) {
+                return w.bits.back().text.contains(u')');
+            });
+            if (closing != words.end() && glued(word, closing + 1).width <= most)
+                end = closing + 1;
+        }
+        kept.push_back(glued(word, end));
+        word = end - 1;
+    }
+    return kept;
 }
 
 std::vector<FlowLine> flowLines(const std::vector<FlowWord>& words, double lineWidth) {

@@ -29,8 +29,14 @@ struct ReportStyle {
 QFont reportFont(const ReportStyle& style);
 double textWidth(const QString& text, const ReportStyle& style);
 
-/// Whether a text is Korean in the main. Hangul looks larger than Latin letters of the same size.
-bool isKorean(const QString& text);
+/// The sizes of a text that may hold both scripts: Hangul looks larger than Latin letters of the same size.
+struct TextSizes {
+    double english = 12;
+    double korean = 12;
+    bool bold = false;
+
+    ReportStyle styleOf(const QString& word) const;
+};
 
 /// Something in a line that is not broken: text of one style, or a blank.
 struct FlowBit {
@@ -56,10 +62,15 @@ struct FlowLine {
 
 /// Cuts a text into words and blanks of a fixed width, which are numbered on from `firstBlank`. Wide spaces
 /// between words stay wide.
-std::vector<FlowWord> flowWords(const QString& text, const ReportStyle& style, double blankWidth,
-                                int& firstBlank);
+std::vector<FlowWord> flowWords(const QString& text, const TextSizes& sizes, double blankWidth, int& firstBlank);
+/// The same for a text that has no blanks to write on.
+std::vector<FlowWord> flowWords(const QString& text, const TextSizes& sizes);
 /// A text that stays in one piece wherever it fits into a line.
-std::vector<FlowWord> flowWhole(const QString& text, const ReportStyle& style, double lineWidth);
+std::vector<FlowWord> flowWhole(const QString& text, const TextSizes& sizes, double lineWidth);
+/// Keeps words in brackets together where they are no wider than `most`.
+std::vector<FlowWord> keepBrackets(const std::vector<FlowWord>& words, double most);
+/// How wide the words are on one line.
+double flowWidth(const std::vector<FlowWord>& words);
 
 /// Breaks words into lines of a width. A word too wide for any line is cut between letters.
 std::vector<FlowLine> flowLines(const std::vector<FlowWord>& words, double lineWidth);

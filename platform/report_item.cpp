@@ -9,14 +9,20 @@ namespace {
 
 constexpr double numberGap = millimetres(2.5);
 constexpr double leastNumber = millimetres(7.5);
-constexpr double answerPadding = millimetres(8);
+// Handwriting takes more room than print.
+constexpr double handwriting = 1.4;
+constexpr double answerPadding = millimetres(6);
 constexpr double lineGap = millimetres(4);
+constexpr double choiceGap = millimetres(5);
+constexpr double questionGap = millimetres(12);
 constexpr double leastLine = millimetres(32);
-constexpr double mostLine = millimetres(60);
+constexpr double mostLine = millimetres(95);
 constexpr double underLinePitch = millimetres(10);
 constexpr double ruleDrop = millimetres(1.1);
+constexpr double letterDrop = millimetres(1.2);
 constexpr double maskSpace = 0.6;  // of a box's side
 constexpr double maskGap = millimetres(9);
+constexpr double maskPitch = millimetres(3);
 
 const QString maskBox = QStringLiteral("□");
 
@@ -39,9 +45,13 @@ int blanksIn(const std::vector<QString>& prompts) {
     return blanks;
 }
 
-/// The style of a text by its language.
-ReportStyle textStyle(const ReportTemplate& report, const QString& text, bool bold = false) {
-    return {isKorean(text) ? report.sizes.korean : report.sizes.english, bold};
+TextSizes textSizes(const ReportTemplate& report, bool bold = false) {
+    return {report.sizes.english, report.sizes.korean, bold};
+}
+
+/// The style of an answer, which is one language.
+ReportStyle answerStyle(const ReportTemplate& report, const QString& answer) {
+    return textSizes(report, true).styleOf(answer);
 }
 
 QString bracketed(const std::vector<QString>& choices) {
@@ -78,7 +88,7 @@ class ItemWriter {
 
    private:
     double room() const {
-        return m_.width - left_ - (linesBeside_ ? m_.lines * (m_.lineWidth + lineGap) : 0);
+        return (linesBeside_ ? m_.lineLeft - lineGap : m_.width) - left_;
     }
     void noteBaseLine(double baseLine) {
         if (firstBaseLine_ == 0)
@@ -88,49 +98,46 @@ class ItemWriter {
     void writeHead() {
         if (content_.head.isEmpty())
             return;
-        const ReportStyle style = textStyle(report_, content_.head, true);
-        const double pitch = pointsOnPage(style.points) * 1.6;
-        int none = 0;
-        for (const FlowLine& line : flowLines(flowWords(content_.head, style, 0, none), m_.width - left_)) {
+        const double pitch = pointsOnPage(report_.sizes.korean) * 1.6;
+        for (const FlowLine& line : flowLines(flowWords(content_.head, textSizes(report_, true)), m_.width - left_)) {
             const double baseLine = block_.height + pitch * 0.72;
             for (const FlowBit& bit : line.bits)
                 addText(block_, PieceRole::ItemHead, left_ + bit.left, baseLine, bit.text, bit.style);
             noteBaseLine(baseLine);
             block_.height += pitch;
         }
+        block_.height += millimetres(0.8);
     }
 
     void writePrompts() {
         int blank = 0;
         bool first = true;
         for (const QString& prompt : content_.prompts) {
-            const ReportStyle style = textStyle(report_, prompt);
-            auto words = flowWords(prompt, style, m_.blankWidth, blank);
+            auto words = keepBrackets(flowWords(prompt, textSizes(report_), m_.blankWidth, blank), room() / 2);
             if (first && presentCount(content_.choices) > 1)
                 appendChoices(words);
-            writeFlow(flowLines(words, room()), style, first);
+            writeFlow(flowLines(words, room()), first);
             first = false;
         }
         if (presentCount(content_.choices) == 1)
             for (const QString& only : content_.choices)
-                if (!only.isEmpty())
-                    writeFlow(flowLines(flowWhole(only, textStyle(report_, only), room()), room()),
-                              textStyle(report_, only), false);
+                writeFlow(flowLines(flowWords(only, textSizes(report_)), room()), false);
     }
 
     void appendChoices(std::vector<FlowWord>& words) const {
         if (!words.empty())
-            words.back().spaceAfter = millimetres(5);
-        const QString choices = bracketed(content_.choices);
-        for (const FlowWord& word : flowWhole(choices, textStyle(report_, choices), room()))
+            words.back().spaceAfter = choiceGap;
+        for (const FlowWord& word : flowWhole(bracketed(content_.choices), textSizes(report_), room()))
             words.push_back(word);
     }
 
     /// Lines with something to write on stand wider than lines to read.
-    void writeFlow(const std::vector<FlowLine>& lines, const ReportStyle& style, bool first) {
+    void writeFlow(const std::vector<FlowLine>& lines, bool first) {
         for (std::size_t i = 0; i < lines.size(); ++i) {
+            if (lines[i].bits.empty())
+                continue;
             const bool toWrite = lines[i].hasBlank() || (first && i == 0 && linesBeside_);
-            const double pitch = pointsOnPage(style.points) * (toWrite ? 1.95 : 1.55);
+            const double pitch = pointsOnPage(report_.sizes.english) * (toWrite ? 1.95 : 1.5);
             const double baseLine = block_.height + pitch * 0.74;
             for (const FlowBit& bit : lines[i].bits)
                 writeBit(bit, baseLine);
@@ -144,7 +151,7 @@ class ItemWriter {
             addText(block_, PieceRole::Prompt, left_ + bit.left, baseLine, bit.text, bit.style);
             return;
         }
-        const double inset = millimetres(0.8);
+        const double inset = millimetres(0.3);
         addShape(block_, PieceRole::Blank,
                  QRectF(left_ + bit.left + inset, baseLine + ruleDrop, bit.width - 2 * inset, 0));
         if (static_cast<std::size_t>(bit.blank) < blankAnswers_.size())
@@ -155,7 +162,7 @@ class ItemWriter {
         const auto answers = answersForLines(content_.answers, m_.lines);
         double baseLine = firstBaseLine_;
         double width = m_.lineWidth;
-        double left = m_.width - m_.lines * width - (m_.lines - 1) * lineGap;
+        double left = m_.lineLeft;
         if (!m_.beside) {
             block_.height += underLinePitch;
             baseLine = block_.height - ruleDrop - millimetres(0.6);
@@ -173,7 +180,7 @@ class ItemWriter {
     void writeAnswer(const QString& answer, double left, double width, double baseLine, bool centred) {
         if (!report_.key || answer.isEmpty())
             return;
-        ReportStyle style = textStyle(report_, answer, true);
+        ReportStyle style = answerStyle(report_, answer);
         const double natural = textWidth(answer, style);
         if (natural > width)
             style.points *= std::max(0.5, width / natural);
@@ -187,25 +194,32 @@ class ItemWriter {
         for (std::size_t i = 0; i < content_.masks.size(); ++i)
             if (!content_.masks[i].isEmpty())
                 writeMask(content_.words[i], content_.masks[i]);
-        if (maskLineOpen_)
-            block_.height += side() + millimetres(2.2);
+        closeMaskLine();
     }
 
     double side() const { return millimetres(report_.boxSide); }
+    /// The room that the letters over a line of boxes take.
+    double letterRow() const {
+        return content_.lettersShown ? pointsOnPage(report_.sizes.english) * 1.15 : 0;
+    }
     double maskWidth(const QString& mask) const {
         double width = 0;
         for (const QChar sign : mask)
             width += sign == u' ' ? side() * maskSpace : side();
         return width;
     }
-    void newMaskLine() {
+    void closeMaskLine() {
         if (maskLineOpen_)
-            block_.height += side() + millimetres(2.2);
+            block_.height += letterRow() + side() + maskPitch;
+        maskLineOpen_ = false;
+    }
+    void newMaskLine() {
+        closeMaskLine();
         maskLeft_ = left_;
         maskLineOpen_ = true;
     }
 
-    /// A box under each letter. One text stays on a line where it fits, else it breaks between words.
+    /// A box under each letter, which the key writes into the box. One text stays on a line where it fits, else it breaks between words.
     void writeMask(const QString& word, const QString& mask) {
         const double end = m_.width;
         if (!maskLineOpen_ || (maskLeft_ > left_ && maskLeft_ + maskWidth(mask) > end))
@@ -230,16 +244,23 @@ class ItemWriter {
         // A text wider than the page goes on in the next line rather than over the edge.
         if (maskLeft_ > left_ && maskLeft_ + side() > m_.width + 1)
             newMaskLine();
-        const QRectF box(maskLeft_, block_.height, side(), side());
-        noteBaseLine(box.bottom() - side() * 0.28);
+        const QRectF box(maskLeft_, block_.height + letterRow(), side(), side());
+        const double baseLine = box.bottom() - side() * 0.28;
+        noteBaseLine(content_.lettersShown ? box.top() - letterDrop : baseLine);
         if (sign == maskBox)
             addShape(block_, PieceRole::MaskBox, box);
-        if (report_.key && !letter.trimmed().isEmpty()) {
-            const ReportStyle style{report_.sizes.english, true};
-            addText(block_, PieceRole::MaskLetter, box.center().x() - textWidth(letter, style) / 2,
-                    box.bottom() - side() * 0.28, letter, style);
-        }
+        if (content_.lettersShown)
+            writeLetter(PieceRole::MaskLetter, letter, box.center().x(), box.top() - letterDrop, false);
+        if (report_.key)
+            writeLetter(PieceRole::MaskAnswer, letter, box.center().x(), baseLine, true);
         maskLeft_ += side();
+    }
+
+    void writeLetter(PieceRole role, const QString& letter, double middle, double baseLine, bool bold) {
+        if (letter.trimmed().isEmpty())
+            return;
+        const ReportStyle style{report_.sizes.english, bold};
+        addText(block_, role, middle - textWidth(letter, style) / 2, baseLine, letter, style);
     }
 
     const ReportTemplate& report_;
@@ -257,21 +278,26 @@ class ItemWriter {
 double widestAnswer(const ReportTemplate& report, const std::vector<QString>& answers) {
     double widest = 0;
     for (const QString& answer : answers)
-        widest = std::max(widest, textWidth(answer, textStyle(report, answer, true)));
+        widest = std::max(widest, textWidth(answer, answerStyle(report, answer)));
     return widest;
 }
 
-/// Whether most questions leave room for their writing lines beside them.
-bool fitsBeside(const ReportTemplate& report, const std::vector<const ItemContent*>& items, const ItemMeasures& m) {
-    const double room = m.width - m.numberWidth - m.lines * (m.lineWidth + lineGap);
+/// Puts the writing lines beside the questions, right behind the widest of them, where that leaves most
+/// questions on one line.
+void placeLines(const ReportTemplate& report, const std::vector<const ItemContent*>& items, ItemMeasures& m) {
+    const double most = m.width - m.lines * m.lineWidth - (m.lines - 1) * lineGap;
+    const double room = most - m.numberWidth - lineGap;
+    double widest = 0;
     int fitting = 0;
     for (const ItemContent* item : items) {
-        double widest = 0;
+        double width = 0;
         for (const QString& prompt : item->prompts)
-            widest = std::max(widest, textWidth(prompt, textStyle(report, prompt)));
-        fitting += widest <= room ? 1 : 0;
+            width = std::max(width, flowWidth(flowWords(prompt, textSizes(report))));
+        fitting += width <= room ? 1 : 0;
+        widest = std::max(widest, std::min(width, room));
     }
-    return 4 * fitting >= 3 * static_cast<int>(items.size());
+    m.beside = m.lineWidth <= mostLine && 4 * fitting >= 3 * static_cast<int>(items.size());
+    m.lineLeft = std::min(most, m.numberWidth + widest + questionGap);
 }
 
 }  // namespace
@@ -305,6 +331,7 @@ ItemContent itemContent(const ReportTemplate& report, const ReportData& data, in
         std::replace(content.answers.begin(), content.answers.end(), report.nothingWord, report.nothingMark);
     content.words = filledTexts(item.words, data, fields);
     content.masks = filledTexts(item.masks, data, fields);
+    content.lettersShown = item.lettersShown;
     return content;
 }
 
@@ -324,7 +351,7 @@ ItemMeasures measureItems(const ReportTemplate& report, const std::vector<const 
     }
     const double room = width - m.numberWidth;
     const double least = millimetres(report.blankLeast);
-    m.blankWidth = std::clamp(inBlank + answerPadding, least,
+    m.blankWidth = std::clamp(inBlank * handwriting + answerPadding, least,
                               std::max(least, std::min(millimetres(report.blankMost), room * 0.6)));
     // A second answer that only some questions have is another way to say the first.
     const bool twoEach = !onLines.empty() && std::all_of(onLines.begin(), onLines.end(), [](const ItemContent* item) {
@@ -334,8 +361,8 @@ ItemMeasures measureItems(const ReportTemplate& report, const std::vector<const 
     double onLine = 0;
     for (const ItemContent* item : onLines)
         onLine = std::max(onLine, widestAnswer(report, answersForLines(item->answers, m.lines)));
-    m.lineWidth = std::max(onLine + answerPadding, std::min(leastLine, room * 0.5));
-    m.beside = m.lineWidth <= mostLine && fitsBeside(report, onLines, m);
+    m.lineWidth = std::max(onLine * handwriting + answerPadding, std::min(leastLine, room * 0.5));
+    placeLines(report, onLines, m);
     return m;
 }
 

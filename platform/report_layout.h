@@ -32,11 +32,11 @@ enum class PieceRole {
     Number,
     ItemHead,
     Prompt,
-    Choice,
     Blank,
     Answer,
     MaskBox,
     MaskLetter,
+    MaskAnswer,
     ColumnRule,
     Foot,
 };

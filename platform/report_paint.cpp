@@ -35,7 +35,7 @@ Ink inkOf(PieceRole role) {
         case PieceRole::MaskBox: return {ruleInk, 0.2};
         case PieceRole::Badge:
         case PieceRole::Answer:
-        case PieceRole::MaskLetter: return {keyInk, 0};
+        case PieceRole::MaskAnswer: return {keyInk, 0};
         case PieceRole::BadgeFrame: return {keyInk, 0.4};
         case PieceRole::LineLabel:
         case PieceRole::Foot: return {softInk, 0};
@@ -45,8 +45,8 @@ Ink inkOf(PieceRole role) {
         case PieceRole::BankWord:
         case PieceRole::Number:
         case PieceRole::ItemHead:
-        case PieceRole::Prompt:
-        case PieceRole::Choice: break;
+        case PieceRole::MaskLetter:
+        case PieceRole::Prompt: break;
     }
     return {colour::black, 0};
 }

@@ -204,7 +204,8 @@ std::vector<ReportItem> readItems(const Setting& setting) {
                       {QStringLiteral("choices"), into(item.choices)},
                       {QStringLiteral("answers"), into(item.answers)},
                       {QStringLiteral("words"), into(item.words)},
-                      {QStringLiteral("masks"), into(item.masks)}});
+                      {QStringLiteral("masks"), into(item.masks)},
+                      {QStringLiteral("letters"), into(item.lettersShown)}});
         if (item.words.size() != item.masks.size())
             member.fail(QStringLiteral("An item needs as many 'words' as 'masks'."));
         items.push_back(item);

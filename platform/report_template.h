@@ -37,6 +37,7 @@ struct ReportItem {
     std::vector<ReportText> answers;  // what the key writes into the blanks
     std::vector<ReportText> words;    // what the key writes into the boxes
     std::vector<ReportText> masks;    // a box for each "□"
+    bool lettersShown = false;        // whether the words stand over their boxes on the sheet itself
 };
 
 /// What rows stand together under one heading: the range of a table that the row's number lies in, or the
