@@ -1,7 +1,6 @@
 #include "core/startup.h"
 
 #include "core/stores.h"
-#include "platform/picture.h"
 
 #include <QGuiApplication>
 #include <QScreen>
@@ -109,9 +108,6 @@ QString drivesRoot(const platform::Settings& settings) {
 
 void ShowMainFrame(const Context& context, platform::Frame& frame) {
     const Session& session = context.session;
-    const auto picture = applicationFile(context, QStringLiteral("interface\\frame.jpg"));
-    if (context.drives.fileLength(picture.shownName) > 0)
-        frame.setPicture(platform::loadPicture(picture.file, picture.shownName, 1.0), QStringLiteral("frame.jpg"));
     // Without a window manager a full-screen request changes nothing, so the size is set first.
     frame.setGeometry(session.frameLeft, session.frameTop, session.screenWidthPx, session.screenHeightPx);
     frame.showFullScreen();
