@@ -4,6 +4,7 @@
 #include "platform/picture.h"
 
 #include <QGuiApplication>
+#include <QIcon>
 #include <QScreen>
 #include <QStandardPaths>
 
@@ -33,8 +34,10 @@ void findMedia(const Context& context) {
 void openDictionary(const Context& context) {
     Session& session = context.session;
     session.dictionaryDb = openStore(context, mainFolder + QStringLiteral("dicword.mdb"));
-    session.allwordRs = session.dictionaryDb.openRecordset(QStringLiteral("Select * from allword order by word"));
-    session.dicwordRs = session.dictionaryDb.openRecordset(QStringLiteral("Select * from dicword order by word"));
+    session.allwordRs =
+        session.dictionaryDb.openRecordset(QStringLiteral("Select * from allword order by word"));
+    session.dicwordRs =
+        session.dictionaryDb.openRecordset(QStringLiteral("Select * from dicword order by word"));
 }
 
 void readIdentity(const Context& context) {
@@ -82,7 +85,8 @@ int FileExists(const Context& context, const QString& path) {
 }
 
 QString applicationFolder(const platform::Settings& settings, const platform::Drives& drives) {
-    const QString stored = settings.read(application, platformSection, QStringLiteral("ApplicationFolder"), QString());
+    const QString stored =
+        settings.read(application, platformSection, QStringLiteral("ApplicationFolder"), QString());
     if (!stored.isEmpty())
         return stored;
     for (const char* drive : {"D:", "E:", "F:", "G:", "H:", "C:"}) {
@@ -109,9 +113,16 @@ QString drivesRoot(const platform::Settings& settings) {
 
 void ShowMainFrame(const Context& context, platform::Frame& frame) {
     const Session& session = context.session;
-    const auto picture = applicationFile(context, QStringLiteral("interface\\frame.jpg"));
-    if (context.drives.fileLength(picture.shownName) > 0)
-        frame.setPicture(platform::loadPicture(picture.file, picture.shownName, 1.0), QStringLiteral("frame.jpg"));
+    const auto load = [&](const QString& name) {
+        const auto picture = applicationFile(context, QStringLiteral("interface\\") + name);
+        return FileExists(context, picture.shownName) == 1
+                   ? platform::loadPicture(picture.file, picture.shownName, 1.0)
+                   : QPixmap();
+    };
+    // Both belong to the frame's design and not to the course, so a course without them starts all the same.
+    const QString backdrop = QStringLiteral("frame.jpg");
+    frame.setPicture(load(backdrop), backdrop);
+    frame.setWindowIcon(QIcon(load(QStringLiteral("icon.jpg"))));
     // Without a window manager a full-screen request changes nothing, so the size is set first.
     frame.setGeometry(session.frameLeft, session.frameTop, session.screenWidthPx, session.screenHeightPx);
     frame.showFullScreen();
