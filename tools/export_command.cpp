@@ -78,7 +78,9 @@ int runExportScores(const QStringList& args) {
     if (!call.parser.parse(QStringList{QStringLiteral("course export-scores")} + args))
         return refuse(call.parser.errorText());
     if (call.parser.isSet(QStringLiteral("help"))) {
-        std::printf("%s", qUtf8Printable(call.parser.helpText()));
+        QString help = call.parser.helpText();
+        help.replace(0, help.indexOf(u'\n'), QStringLiteral("Usage: course export-scores [options]"));
+        std::printf("%s", qUtf8Printable(help));
         return success;
     }
     if (!call.parser.positionalArguments().isEmpty() ||

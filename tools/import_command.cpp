@@ -70,7 +70,9 @@ int runImport(const QStringList& args, const InstallCheck& check) {
     if (!call.parser.parse(QStringList{QStringLiteral("course import")} + args))
         return refuse(call.parser.errorText());
     if (call.parser.isSet(QStringLiteral("help"))) {
-        std::printf("%s", qUtf8Printable(call.parser.helpText()));
+        QString help = call.parser.helpText();
+        help.replace(0, help.indexOf(u'\n'), QStringLiteral("Usage: course import FROM [options]"));
+        std::printf("%s", qUtf8Printable(help));
         return success;
     }
     if (call.parser.positionalArguments().size() != 1)

@@ -32,6 +32,9 @@ class JetReader final : public AccessReader {
    private:
     void open(const QString& file, int codePage);
     int findCodePage(const AccessHeader& header);
+    void readCatalog();
+    template <typename Wanted>
+    MdbCatalogEntry* findEntry(Wanted wanted) const;
     void loadTable(MdbCatalogEntry& entry);
     bool nextPage();
     bool loadPage(int page);
@@ -114,30 +117,50 @@ int JetReader::findCodePage(const AccessHeader& header) {
     return chooseCodePage(header.codePage, header.language, samples);
 }
 
-QStringList JetReader::tables() {
-    if (!mdb_read_catalog(handle_.get(), MDB_TABLE))
+/// Throws where the list of objects holds fewer than it counts, since a table that is not listed would be
+/// lost in silence.
+void JetReader::readCatalog() {
+    if (!mdb_read_catalog(handle_.get(), MDB_ANY))
         throw ReadError(QStringLiteral("the list of tables is damaged"));
-    QStringList names;
+    MdbCatalogEntry* list =
+        findEntry([](const MdbCatalogEntry& e) { return qstrcmp(e.object_name, "MSysObjects") == 0; });
+    const JetTable counted(list ? mdb_read_table(list) : nullptr);
+    if (!counted || handle_->num_catalog < counted->num_rows)
+        throw ReadError(QStringLiteral("the list of tables is damaged: %1 of its %2 entries were found")
+                            .arg(handle_->num_catalog)
+                            .arg(counted ? counted->num_rows : 0));
+}
+
+template <typename Wanted>
+MdbCatalogEntry* JetReader::findEntry(Wanted wanted) const {
     for (unsigned i = 0; i < handle_->num_catalog; ++i) {
         auto* entry = static_cast<MdbCatalogEntry*>(g_ptr_array_index(handle_->catalog, i));
-        if (mdb_is_user_table(entry))
-            names.append(QString::fromUtf8(entry->object_name));
+        if (wanted(*entry))
+            return entry;
     }
+    return nullptr;
+}
+
+QStringList JetReader::tables() {
+    readCatalog();
+    QStringList names;
+    findEntry([&](MdbCatalogEntry& entry) {
+        if (mdb_is_user_table(&entry))
+            names.append(QString::fromUtf8(entry.object_name));
+        return false;
+    });
     return names;
 }
 
 SourceTable JetReader::openTable(const QString& name) {
     table_.reset();
-    if (!mdb_read_catalog(handle_.get(), MDB_TABLE))
-        throw ReadError(QStringLiteral("the list of tables is damaged"));
+    readCatalog();
     const QByteArray wanted = name.toUtf8();
-    for (unsigned i = 0; i < handle_->num_catalog && !table_; ++i) {
-        auto* entry = static_cast<MdbCatalogEntry*>(g_ptr_array_index(handle_->catalog, i));
-        if (mdb_is_user_table(entry) && wanted == entry->object_name)
-            loadTable(*entry);
-    }
-    if (!table_)
+    MdbCatalogEntry* entry =
+        findEntry([&](MdbCatalogEntry& e) { return mdb_is_user_table(&e) && wanted == e.object_name; });
+    if (!entry)
         throw ReadError(QStringLiteral("the table is not in the file"));
+    loadTable(*entry);
     SourceTable table{name, {}, table_->num_rows};
     for (unsigned i = 0; i < table_->num_cols; ++i) {
         const MdbColumn& field = column(i);

@@ -46,7 +46,8 @@ QString fromUtf16(const QByteArray& wide, bool& valid) {
     QStringDecoder decoder(QStringDecoder::Utf16LE,
                            QStringDecoder::Flag::Stateless | QStringDecoder::Flag::ConvertInitialBom);
     QString text = decoder.decode(wide);
-    valid = !decoder.hasError() && wide.size() % 2 == 0;
+    // The decoder lets halves of surrogate pairs pass.
+    valid = !decoder.hasError() && wide.size() % 2 == 0 && text.isValidUtf16();
     return text;
 }
 
