@@ -85,7 +85,8 @@ Value parseValue(const QString& text, const core::FieldShape& field, const Sourc
     return {};
 }
 
-/// Fills a field that is empty in every row of a group with 1, 2, 3 …; groups are rows of the same key.
+/// Fills empty fields with the number after that of the row before, from 1 on; rows of the same key count
+/// together.
 void numberRows(BuiltTable& table, const QString& field, const QString& key) {
     const int column = table.column(field);
     std::map<qlonglong, std::int64_t> last;
@@ -95,6 +96,8 @@ void numberRows(BuiltTable& table, const QString& field, const QString& key) {
         auto& value = row.values[static_cast<std::size_t>(column)];
         if (value.isNull())
             value = ++last[group];
+        else if (const auto* number = std::get_if<std::int64_t>(&value.content()))
+            last[group] = *number;
     }
 }
 
