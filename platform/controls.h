@@ -40,6 +40,8 @@ class Label : public QLabel {
     void setForeColor(QRgb colour);
     QRgb foreColor() const;
     void setBackColor(QRgb colour);
+    /// Draws the label as a panel: a filled, rounded ground with a border. A transparent fill takes it away.
+    void setPanel(QRgb fill, QRgb border);
 
     std::function<void()> onClick;
     std::function<void()> onMouseMove;
@@ -55,6 +57,8 @@ class Label : public QLabel {
 
    private:
     bool pressed_ = false;
+    QRgb panelFill_ = 0;
+    QRgb panelBorder_ = 0;
 };
 
 /// A one-line box. Takes Latin letters whatever the keyboard mode.
