@@ -143,6 +143,14 @@ void Label::setPanel(QRgb fill, QRgb border) {
     update();
 }
 
+void Label::setMark(BoxMark mark) {
+    if (mark_ == mark)
+        return;
+    mark_ = mark;
+    setAccessibleDescription(markDescription(mark));
+    update();
+}
+
 void Label::mousePressEvent(QMouseEvent* event) {
     pressed_ = event->button() == Qt::LeftButton;
     event->accept();
@@ -185,6 +193,8 @@ void Label::paintEvent(QPaintEvent* event) {
     if (qAlpha(panelFill_) != 0)
         paintPanel(*this, panelFill_, panelBorder_);
     QLabel::paintEvent(event);
+    if (mark_ != BoxMark::None)
+        paintBoxMark(*this, mark_);
     if (hasFocus())
         paintFocusMark(*this);
 }
