@@ -28,20 +28,21 @@ QuestionQuiz::QuestionQuiz(core::Context& context, const QuizEntry& entry) : Qui
         key.setAlignment(Qt::AlignCenter);
         key.setForeColor(platform::colour::accent);
     }
-    lblMark_ = &addLabel(QStringLiteral("lblMark"), QRect(course::sideLeft, 206, 104, 44), TextRole::Meaning);
-    lblMark_->setAlignment(Qt::AlignCenter);
+    lblMark_ =
+        &addLabel(QStringLiteral("lblMark"), QRect(course::sideLeft + 34, 212, 36, 36), TextRole::Caption);
+    lblMark_->setAccessibleName(QStringLiteral("Last answer"));
 }
 
 void QuestionQuiz::startRun() {
     openRows();
-    shuffle({"orderno"});
+    shuffle(restartOrder);
     openRows("orderno");
     setRunning(true);
     itemNo_ = 1;
     correctCount_ = 0;
     showItem();
     showAnswerLine();
-    showMark(*lblMark_, QString());
+    lblMark_->setMark(platform::BoxMark::None);
     showQuestion(true);
 }
 
@@ -83,13 +84,13 @@ void QuestionQuiz::announce(const Verdict& verdict) {
     if (verdict.outcome == Outcome::Right) {
         core::PlaySound(context(), QStringLiteral("correct.wav"), core::Effect);
         correctCount_ += 1;
-        showMark(*lblMark_, mark::right);
+        lblMark_->setMark(platform::BoxMark::Right);
     }
     if (verdict.outcome != Outcome::Wrong)
         return;
     if (verdict.sounds)
         core::PlaySound(context(), QStringLiteral("wrongit.wav"), core::Effect);
-    showMark(*lblMark_, mark::wrong);
+    lblMark_->setMark(platform::BoxMark::Wrong);
     context().boxes.notice(verdict.message);
     if (!entry().marksWrongRows || !verdict.marksRow)
         return;

@@ -120,12 +120,13 @@ QString QuizScreen::rowScope() const {
     return QStringLiteral("topicno=%1 and recordno=%2 and ").arg(session().topicNo).arg(session().recordNo);
 }
 
-void QuizScreen::shuffle(std::initializer_list<const char*> orders, const char* emptied) {
+void QuizScreen::shuffle(std::span<const char* const> orders, const char* emptied) {
     platform::Batch batch(contentDb);
     for (quizRs.moveFirst(); !quizRs.eof(); quizRs.moveNext()) {
         quizRs.edit();
         for (const char* order : orders)
-            quizRs.set(QLatin1String(order), 0);
+            if (order != nullptr)
+                quizRs.set(QLatin1String(order), 0);
         if (emptied != nullptr)
             quizRs.set(QLatin1String(emptied), QString::fromLatin1(""));
         quizRs.update();
@@ -133,7 +134,8 @@ void QuizScreen::shuffle(std::initializer_list<const char*> orders, const char* 
     quizRs.moveLast();
     itemTotal = quizRs.recordCount();
     for (const char* order : orders)
-        course::shuffleRows(context(), quizRs, QLatin1String(order), itemTotal, rowScope());
+        if (order != nullptr)
+            course::shuffleRows(context(), quizRs, QLatin1String(order), itemTotal, rowScope());
     batch.commit();
 }
 

@@ -7,6 +7,9 @@
 
 namespace quizzes {
 
+/// What a restart shuffles, whatever else the first start does.
+inline constexpr std::array restartOrder{"orderno"};
+
 using core::Int16;
 using platform::ControlArray;
 using platform::Label;
@@ -37,7 +40,7 @@ class QuizScreen : public course::ExerciseScreen {
     void openRows(const char* order = nullptr);
     /// Zeroes the order fields, and empties `emptied` where given, on every row; then draws each order anew.
     /// Sets `itemTotal`.
-    void shuffle(std::initializer_list<const char*> orders, const char* emptied = nullptr);
+    void shuffle(std::span<const char* const> orders, const char* emptied = nullptr);
     /// "topicno=1 and recordno=2 and "
     QString rowScope() const;
     /// The text of a field that a question cannot do without.
