@@ -39,12 +39,4 @@ void makeClickable(Label& label) {
     label.setCursor(Qt::PointingHandCursor);
 }
 
-void showMark(Label& label, const QString& text) {
-    label.setForeColor(text == mark::wrong ? platform::colour::red : platform::colour::accent);
-    label.setCaption(text);
-    label.setAccessibleName(text.isEmpty()        ? QString()
-                            : text == mark::wrong ? QStringLiteral("Wrong")
-                                                  : QStringLiteral("Right"));
-}
-
 }  // namespace quizzes

@@ -9,11 +9,6 @@ namespace quizzes {
 inline constexpr int cardLeft = 40;
 inline constexpr int cardWidth = 788;
 
-namespace mark {
-inline const QString right = QStringLiteral("○");
-inline const QString wrong = QStringLiteral("×");
-}  // namespace mark
-
 /// The text role that goes with a look.
 platform::TextRole roleOf(Look look);
 
@@ -22,8 +17,5 @@ void dress(platform::Label& label, Look look);
 
 /// Makes a label look and behave like something to click.
 void makeClickable(platform::Label& label);
-
-/// Shows the mark that tells right from wrong without colours; an empty text takes it away.
-void showMark(platform::Label& label, const QString& mark);
 
 }  // namespace quizzes
