@@ -23,7 +23,6 @@ ButtonQuiz::ButtonQuiz(core::Context& context, const QuizEntry& entry) : Questio
         button.setAutoDefault(true);
         button.onClick = [this, i] { pressed(i); };
     }
-    contentFirst();
 }
 
 void ButtonQuiz::prepare() {

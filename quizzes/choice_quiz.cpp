@@ -12,7 +12,6 @@ ChoiceQuiz::ChoiceQuiz(core::Context& context, const QuizEntry& entry) : Questio
                     choice.setForeColor(platform::colour::red);
             };
     }
-    contentFirst();
 }
 
 void ChoiceQuiz::restoreHover() {

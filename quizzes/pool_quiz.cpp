@@ -26,7 +26,9 @@ PoolQuiz::PoolQuiz(core::Context& context, const QuizEntry& entry) : TableQuiz(c
     for (int row = 1; row < tableRows; ++row)
         setTabOrder(&cell(pool, row - 1), &cell(pool, row));
     setTabOrder(&cell(pool, tableRows - 1), &reset);
-    contentFirst();
+    setTabOrder(&reset, &cell(slot, 0));
+    for (int row = 1; row < tableRows; ++row)
+        setTabOrder(&cell(slot, row - 1), &cell(slot, row));
 }
 
 void PoolQuiz::fillRows() {

@@ -27,6 +27,7 @@ QuestionQuiz::QuestionQuiz(core::Context& context, const QuizEntry& entry) : Qui
                               TextRole::Caption, QString::number(choices_.size()));
         key.setAlignment(Qt::AlignCenter);
         key.setForeColor(platform::colour::accent);
+        keyOf_[&label] = &key;
     }
     lblMark_ =
         &addLabel(QStringLiteral("lblMark"), QRect(course::sideLeft + 34, 212, 36, 36), TextRole::Caption);
@@ -64,8 +65,11 @@ void QuestionQuiz::fillShown(std::size_t index) {
     const QString text =
         field.hidesWhenEmpty ? quizRs.textOrEmpty(QLatin1String(field.field)) : required(field.field);
     showFitted(label, text, roleOf(field.look), scale());
-    if (field.hidesWhenEmpty)
-        label.setVisible(!text.isEmpty());
+    if (!field.hidesWhenEmpty)
+        return;
+    label.setVisible(!text.isEmpty());
+    if (const auto key = keyOf_.find(&label); key != keyOf_.end())
+        key->second->setVisible(!text.isEmpty());
 }
 
 void QuestionQuiz::fillAllShown() {

@@ -3,6 +3,8 @@
 #include "quizzes/judges.h"
 #include "quizzes/quiz_screen.h"
 
+#include <map>
+
 namespace quizzes {
 
 /// The shape that asks one question at a time: every row once, in its drawn order, right or wrong.
@@ -42,6 +44,7 @@ class QuestionQuiz : public QuizScreen {
 
     std::vector<Label*> shown_;
     std::vector<Label*> choices_;
+    std::map<const Label*, Label*> keyOf_;
     Label* lblMark_ = nullptr;
     Int16 itemNo_;
     Int16 correctCount_;

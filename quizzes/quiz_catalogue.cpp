@@ -10,16 +10,16 @@ using platform::BoxIcon;
 using enum EndAct;
 
 constexpr std::array twoChoices{
-    ShownField{"lblWord", "q1", Look::Sentence, 40, 150, 788, 110},
-    ShownField{"lblWord2(0)", "q2", Look::Choice, 68, 310, 356, 76},
-    ShownField{"lblWord2(1)", "q3", Look::Choice, 472, 310, 356, 76},
+    ShownField{"lblWord", "q1", Look::Sentence, 40, 160, 788, 120},
+    ShownField{"lblWord2(0)", "q2", Look::Choice, 68, 330, 356, 80},
+    ShownField{"lblWord2(1)", "q3", Look::Choice, 472, 330, 356, 80},
 };
 constexpr std::array fourChoices{
-    ShownField{"lblWord", "q1", Look::Sentence, 40, 150, 788, 110},
-    ShownField{"lblWord2(0)", "q2", Look::Choice, 68, 310, 356, 76},
-    ShownField{"lblWord2(1)", "q3", Look::Choice, 472, 310, 356, 76},
-    ShownField{"lblWord2(2)", "q4", Look::Choice, 68, 410, 356, 76, true},
-    ShownField{"lblWord2(3)", "q5", Look::Choice, 472, 410, 356, 76, true},
+    ShownField{"lblWord", "q1", Look::Sentence, 40, 160, 788, 120},
+    ShownField{"lblWord2(0)", "q2", Look::Choice, 68, 330, 356, 80},
+    ShownField{"lblWord2(1)", "q3", Look::Choice, 472, 330, 356, 80},
+    ShownField{"lblWord2(2)", "q4", Look::Choice, 68, 434, 356, 80, true},
+    ShownField{"lblWord2(3)", "q5", Look::Choice, 472, 434, 356, 80, true},
 };
 constexpr std::array twoPairs{
     ShownField{"lblWord", "q1", Look::Sentence, 40, 140, 788, 96},
@@ -30,15 +30,15 @@ constexpr std::array twoPairs{
     ShownField{"lblWord6", "q6", Look::Choice, 462, 374, 168, 60},
     ShownField{"lblWord7", "q7", Look::Choice, 660, 374, 168, 60},
 };
-constexpr std::array wrongWord{ShownField{"lblWord", "q1", Look::Sentence, 40, 144, 788, 96}};
+constexpr std::array wrongWord{ShownField{"lblWord", "q1", Look::Sentence, 40, 136, 788, 100}};
 constexpr std::array gapSentence{ShownField{"lblWord", "q1", Look::Sentence, 40, 186, 788, 110}};
 constexpr std::array wholeSentence{
-    ShownField{"lblWord", "q1", Look::Sentence, 40, 144, 788, 96},
-    ShownField{"lblKorean", "q2", Look::Sentence, 40, 252, 788, 96},
+    ShownField{"lblWord", "q1", Look::Sentence, 40, 148, 788, 96},
+    ShownField{"lblKorean", "q2", Look::Sentence, 40, 264, 788, 96},
 };
 constexpr std::array wordGaps{
-    ShownField{"lblWord", "q1", Look::Sentence, 40, 144, 788, 96},
-    ShownField{"lblKorean", "q2", Look::Sentence, 40, 252, 788, 96},
+    ShownField{"lblWord", "q1", Look::Sentence, 40, 148, 788, 96},
+    ShownField{"lblKorean", "q2", Look::Sentence, 40, 264, 788, 96},
 };
 
 constexpr const char* questionHeading = "Question Word";

@@ -58,7 +58,7 @@ void QuizScreen::buildSide() {
     if (!entry_.hasAnswerLine)
         return;
     const bool table = entry_.shape == Shape::Table;
-    const QRect place = table ? QRect(cardLeft, 118, cardWidth, 22) : QRect(cardLeft, 644, cardWidth, 44);
+    const QRect place = table ? QRect(cardLeft, 120, cardWidth, 24) : QRect(cardLeft, 644, cardWidth, 44);
     lblAnswer = &addLabel(QStringLiteral("lblAnswer"), place, table ? TextRole::Answer : TextRole::Row);
     lblAnswer->setPanel(0xfffff3dd, platform::colour::lightOrange);
     lblAnswer->setWordWrap(true);
@@ -76,17 +76,17 @@ void QuizScreen::addHint(int top) {
         hint.setAlignment(Qt::AlignCenter);
 }
 
-void QuizScreen::contentFirst() {
-    QWidget* last = nullptr;
-    for (QWidget* control : findChildren<QWidget*>())
-        if (qobject_cast<platform::PictureButton*>(control) == nullptr &&
-            (control->focusPolicy() & Qt::TabFocus))
-            last = control;
-    for (auto* button : findChildren<platform::PictureButton*>()) {
-        if (last != nullptr)
-            setTabOrder(last, button);
-        last = button;
-    }
+void QuizScreen::focusContent() {
+    const auto isSide = [](QWidget* control) {
+        return qobject_cast<platform::PictureButton*>(control) != nullptr;
+    };
+    if (focusWidget() != nullptr && focusWidget()->isVisible() && !isSide(focusWidget()))
+        return;
+    for (QWidget* control = nextInFocusChain(); control != this; control = control->nextInFocusChain())
+        if ((control->focusPolicy() & Qt::TabFocus) != 0 && control->isVisible() && !isSide(control)) {
+            control->setFocus(Qt::TabFocusReason);
+            return;
+        }
 }
 
 void QuizScreen::firstTick() {
@@ -99,6 +99,7 @@ void QuizScreen::firstTick() {
         picPre().hide();
     if (lblAnswer != nullptr && session().isTeacher())
         lblAnswer->show();
+    focusContent();
 }
 
 void QuizScreen::openRows(const char* order) {
@@ -186,8 +187,10 @@ void QuizScreen::offerQuiz() {
 }
 
 void QuizScreen::beginClicked() {
-    if (!loading())
-        begin();
+    if (loading())
+        return;
+    begin();
+    focusContent();
 }
 
 void QuizScreen::quizClicked() {

@@ -65,8 +65,8 @@ class QuizScreen : public course::ExerciseScreen {
     virtual void startWalk() {}
 
     void addHint(int top);
-    /// Puts the buttons of the side behind the content in the order of Tab.
-    void contentFirst();
+    /// Takes the keyboard from the buttons of the side to the first control that answers.
+    void focusContent();
     bool isFinal() const { return session().isFinal(); }
 
     void closeRecordsets() override { quizRs.close(); }

@@ -13,20 +13,20 @@ constexpr std::size_t korean = 1;
 }  // namespace
 
 SentenceQuiz::SentenceQuiz(core::Context& context, const QuizEntry& entry) : QuestionQuiz(context, entry) {
-    addHeading("lblHeading(0)", QRect(cardLeft, 376, cardWidth, 20), "Type Correct Answer Here");
+    addHeading("lblHeading(0)", QRect(cardLeft, 392, cardWidth, 20), "Type Correct Answer Here");
     txtWord_ =
-        &addTextBox(QStringLiteral("txtWord"), QRect(cardLeft, 400, cardWidth, 56), TextRole::Sentence);
+        &addTextBox(QStringLiteral("txtWord"), QRect(cardLeft, 416, cardWidth, 56), TextRole::Sentence);
     txtWord_->setAlignment(Qt::AlignLeft | Qt::AlignVCenter);
+    txtWord_->setTextMargins(12, 0, 12, 0);
     txtWord_->setAccessibleName(QStringLiteral("The sentence"));
     txtWord_->onKeyDown = [this](int code) {
         if (code == platform::key::enter)
             judge(true);
     };
-    Label& rule = addLabel(QStringLiteral("lblRule"), QRect(cardLeft, 470, cardWidth, 24), TextRole::Row,
+    Label& rule = addLabel(QStringLiteral("lblRule"), QRect(cardLeft, 490, cardWidth, 24), TextRole::Row,
                            QStringLiteral("대문자, 띄어쓰기 모두 일치하여야 합니다"));
     rule.setAlignment(Qt::AlignCenter);
-    addHint(506);
-    contentFirst();
+    addHint(524);
 }
 
 void SentenceQuiz::showQuestion(bool) {

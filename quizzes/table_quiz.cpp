@@ -7,10 +7,10 @@ namespace quizzes {
 
 namespace {
 
-constexpr int hintTop = 118;
-constexpr int headingTop = 141;
-constexpr int rowTop = 162;
-constexpr int rowPitch = 36;
+constexpr int hintTop = 121;
+constexpr int headingTop = 149;
+constexpr int rowTop = 170;
+constexpr int rowPitch = 35;
 constexpr int rowHeight = 32;
 constexpr int numberLeft = 20;
 constexpr int boxMargin = 8;
@@ -42,7 +42,6 @@ TableQuiz::TableQuiz(core::Context& context, const QuizEntry& entry) : QuizScree
     const CountersShown shown = entry.counters.shown;
     if (isFinal() && (shown == CountersShown::AtLoad || shown == CountersShown::AtLoadAndTick))
         showFinalCounters();
-    contentFirst();
 }
 
 void TableQuiz::buildHeadings() {

@@ -25,7 +25,6 @@ TwoPickQuiz::TwoPickQuiz(core::Context& context, const QuizEntry& entry) : Quest
         };
     }
     addHint(578);
-    contentFirst();
 }
 
 void TwoPickQuiz::showQuestion(bool) {

@@ -7,7 +7,7 @@ namespace {
 constexpr int boxCount = 4;
 constexpr int boxWidth = 185;
 constexpr int boxPitch = 201;
-constexpr int boxTop = 396;
+constexpr int boxTop = 410;
 constexpr std::size_t sentence = 0;
 constexpr std::size_t korean = 1;
 const QString noKorean = QStringLiteral("Blank");
@@ -22,8 +22,7 @@ WordBoxQuiz::WordBoxQuiz(core::Context& context, const QuizEntry& entry) : Quest
         box.onKeyDown = [this, i](int code) { keyDown(i, code); };
         box.hide();
     }
-    addHint(486);
-    contentFirst();
+    addHint(496);
 }
 
 void WordBoxQuiz::start() {

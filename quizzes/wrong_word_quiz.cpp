@@ -4,6 +4,7 @@
 
 #include <QFontMetrics>
 
+#include <algorithm>
 #include <cmath>
 
 namespace quizzes {
@@ -11,7 +12,8 @@ namespace quizzes {
 namespace {
 
 constexpr int wordCount = 14;
-constexpr int wordsTop = 262;
+constexpr int wordsTop = 252;
+constexpr int wordsHeight = 196;
 constexpr int wordHeight = 40;
 constexpr int wordGap = 8;
 constexpr int wordPadding = 32;
@@ -39,7 +41,6 @@ WrongWordQuiz::WrongWordQuiz(core::Context& context, const QuizEntry& entry) : Q
             judge(true);
     };
     addHint(574);
-    contentFirst();
 }
 
 void WrongWordQuiz::showQuestion(bool first) {
@@ -59,24 +60,45 @@ void WrongWordQuiz::ShowSentence(const QString& sentence) {
                      .arg(sentence, QString::number(words.size()), QString::number(wordCount)));
     for (qsizetype i = 0; i < words.size(); ++i)
         lblWord2_(static_cast<int>(i)).setCaption(words[i]);
-    layOutWords(words.size());
+    layOutWords(static_cast<int>(words.size()));
     lblWord3_->setCaption(QString());
 }
 
-void WrongWordQuiz::layOutWords(qsizetype count) {
-    int left = cardLeft;
-    int top = wordsTop;
-    for (int i = 0; i < static_cast<int>(count); ++i) {
-        Label& word = lblWord2_(i);
-        const double text = QFontMetrics(word.font()).horizontalAdvance(word.caption()) / scale();
-        const int width = std::max(leastWordWidth, static_cast<int>(std::ceil(text)) + wordPadding);
-        if (left + width > cardLeft + cardWidth && left > cardLeft) {
-            left = cardLeft;
-            top += wordHeight + wordGap;
+int WrongWordQuiz::widthOf(const Label& word) const {
+    const double text = QFontMetrics(word.font()).horizontalAdvance(word.caption()) / scale();
+    return std::clamp(static_cast<int>(std::ceil(text)) + wordPadding, leastWordWidth, cardWidth);
+}
+
+void WrongWordQuiz::layOutWords(int count) {
+    std::vector<std::vector<int>> lines(1);
+    int room = cardWidth;
+    for (int i = 0; i < count; ++i) {
+        const int width = widthOf(lblWord2_(i));
+        if (width > room && !lines.back().empty()) {
+            lines.emplace_back();
+            room = cardWidth;
         }
-        place(word, QRect(left, top, std::min(width, cardWidth), wordHeight));
+        lines.back().push_back(i);
+        room -= width + wordGap;
+    }
+    const int used = static_cast<int>(lines.size()) * (wordHeight + wordGap) - wordGap;
+    int top = wordsTop + std::max(0, (wordsHeight - used) / 2);
+    for (const std::vector<int>& line : lines) {
+        placeLine(line, top);
+        top += wordHeight + wordGap;
+    }
+}
+
+void WrongWordQuiz::placeLine(const std::vector<int>& words, int top) {
+    int width = -wordGap;
+    for (const int word : words)
+        width += widthOf(lblWord2_(word)) + wordGap;
+    int left = cardLeft + (cardWidth - width) / 2;
+    for (const int index : words) {
+        Label& word = lblWord2_(index);
+        place(word, QRect(left, top, widthOf(word), wordHeight));
         word.show();
-        left += width + wordGap;
+        left += widthOf(word) + wordGap;
     }
 }
 

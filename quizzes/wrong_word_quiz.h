@@ -18,7 +18,10 @@ class WrongWordQuiz final : public QuestionQuiz {
    private:
     /// Cuts the sentence into words that can be clicked.
     void ShowSentence(const QString& sentence);
-    void layOutWords(qsizetype count);
+    /// Puts the words in centred lines.
+    void layOutWords(int count);
+    void placeLine(const std::vector<int>& words, int top);
+    int widthOf(const Label& word) const;
     void wordClicked(int index);
     void judge(bool byEnter);
 
