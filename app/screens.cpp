@@ -3,6 +3,7 @@
 #include "core/login_panel.h"
 #include "core/study_time.h"
 #include "course/course_table.h"
+#include "quizzes/quiz_maker.h"
 
 namespace app {
 
@@ -20,6 +21,9 @@ ScreenMakers allScreens() {
     makers.insert(QStringLiteral("frmLogIn2"), maker<core::LoginPanel>());
     makers.insert(QStringLiteral("frmTime"), maker<core::StudyTime>());
     makers.insert(QStringLiteral("frmTable"), maker<course::CourseTable>());
+    for (const quizzes::QuizEntry& quiz : quizzes::quizEntries())
+        makers.insert(QLatin1String(quiz.form),
+                      [&quiz](core::Context& context) { return quizzes::makeQuiz(context, quiz); });
     return makers;
 }
 
