@@ -3,6 +3,7 @@
 #include "core/login_panel.h"
 #include "core/study_time.h"
 #include "course/course_table.h"
+#include "lessons/lessons.h"
 
 namespace app {
 
@@ -20,6 +21,9 @@ ScreenMakers allScreens() {
     makers.insert(QStringLiteral("frmLogIn2"), maker<core::LoginPanel>());
     makers.insert(QStringLiteral("frmTime"), maker<core::StudyTime>());
     makers.insert(QStringLiteral("frmTable"), maker<course::CourseTable>());
+    for (const lessons::Drill& drill : lessons::drillCatalogue())
+        makers.insert(QString::fromUtf8(drill.name),
+                      [&drill](core::Context& context) { return lessons::makeLesson(context, drill); });
     return makers;
 }
 

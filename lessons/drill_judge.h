@@ -1,0 +1,19 @@
+#pragma once
+
+#include "lessons/drill_catalogue.h"
+
+#include <QString>
+
+namespace lessons {
+
+/// What a box holds, as the check takes it: blanks at both ends cut off, in lower case.
+QString typedWord(const QString& boxText);
+
+/// The criterion that finds the row of `blankno` which the word in a box makes right. The word goes in as
+/// it stands.
+QString rightRowCriterion(const Drill& drill, int box, const QString& word);
+
+/// The hint of a word: its first letter.
+QString firstLetter(const QString& word);
+
+}  // namespace lessons
