@@ -112,6 +112,8 @@ struct Drill {
     const char* missed = missMessage;
 
     // Leaving.
+    bool savesScore = true;       // a set drill may leave the score to its second page
+    const char* nextScreen = "";  // where a first page goes on to, with no question
     const char* preScreen = "frmVoca2";
     bool hidesNextInReview = false;
     bool nextAsksInReview = true;

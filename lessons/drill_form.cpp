@@ -100,13 +100,16 @@ void DrillForm::buildBox(const GridBlock& block, int n) {
     TextBox& box = addTextBox(txtWord, boxPlace(block, n), drill_.boxText);
     const int index = txtWord.size() - 1;
     box.setFocusPolicy(Qt::ClickFocus);
-    box.setTextMargins(12, 0, 12, 0);
+    // Room for the sign at the right edge.
+    box.setTextMargins(8, 0, 14, 0);
     box.setBackColor(boxColour(drill_, index));
     box.setAccessibleName(QStringLiteral("Box %1").arg(index + 1));
     box.setVisible(index < drill_.boxes);
     box.setEnabled(!drill_.countsRows);
     if (!drill_.countsRows)
         box.setText(sampleAnswer);
+    // A sign stands for the answer it was given for.
+    box.onChange = [&box] { box.setMark(platform::BoxMark::None); };
     box.onKeyDown = [this, index](int code) { keyDown(index, code); };
 }
 
@@ -123,7 +126,7 @@ QString DrillForm::stepQuery(const char* table, const QString& order) const {
 }
 
 bool DrillForm::isToBeRead(const Recordset& rows, SetUse use, const char* table) const {
-    if (use == SetUse::Opened)
+    if (use == SetUse::Absent || use == SetUse::Opened)
         return false;
     if (!rows.isEmpty())
         return true;
@@ -166,6 +169,11 @@ void DrillForm::firstTick() {
     picNext().show();
     if (drill_.hidesNextInReview && session().isReview())
         picNext().hide();
+    // Space then starts the drill, or scrolls a page that is only read.
+    if (drill_.hasBegin)
+        picBegin().setFocus();
+    else
+        txtStory_->setFocus();
 }
 
 void DrillForm::readTip() {
@@ -302,6 +310,14 @@ void DrillForm::goTo(int box) {
     txtWord(box).selectAndFocus();
 }
 
+void DrillForm::goToNextListed(int box) {
+    blankRs.findFirst(QStringLiteral("blankno=%1").arg(box));
+    const int orderNo = blankRs.noMatch() ? 0 : static_cast<int>(blankRs.integer(QStringLiteral("orderno")));
+    blankRs.findFirst(QStringLiteral("orderno=%1").arg(orderNo + 1));
+    if (!blankRs.noMatch())
+        goTo(blankRs.integer(QStringLiteral("blankno")));
+}
+
 void DrillForm::keyDown(int box, int code) {
     if (code == platform::key::home || code == platform::key::end) {
         moveToEnds(box, code);
@@ -350,6 +366,10 @@ void DrillForm::close(const ClosedSets& sets) {
 }
 
 void DrillForm::nextClicked() {
+    if (*drill_.nextScreen != '\0') {
+        leaveTo(QString::fromUtf8(drill_.nextScreen));
+        return;
+    }
     if (!drill_.nextAsksInReview && session().isReview()) {
         leave();
         course::NextStep(context());

@@ -35,6 +35,10 @@ class DrillForm : public course::ExerciseScreen {
     int boxCount() const { return boxCount_; }
     /// Selects the text of a box, so that typing replaces it, and puts the focus there.
     void goTo(int box);
+    /// Goes from a box to the next one on the list in `blankRs`: from any box off the list to its first, from
+    /// its last nowhere.
+    void goToNextListed(int box);
+
     void openRows();
     void openBlanks(const QString& rest = QStringLiteral(" order by orderno"));
     void deleteBlanks();

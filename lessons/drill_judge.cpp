@@ -22,6 +22,14 @@ QString rightRowCriterion(const Drill& drill, int box, const QString& word) {
                                              : wordTerm + QStringLiteral(" and ") + boxTerm;
 }
 
+QString unmatchedRowCriterion(const QString& word) {
+    return QStringLiteral("word1='") + word + QStringLiteral("' and word2='NONE'");
+}
+
+bool isClozeAnswer(const QString& word, const QString& boxText) {
+    return word.toLower() == typedWord(boxText);
+}
+
 QString firstLetter(const QString& word) {
     return word.left(1);
 }

@@ -13,6 +13,12 @@ QString typedWord(const QString& boxText);
 /// it stands.
 QString rightRowCriterion(const Drill& drill, int box, const QString& word);
 
+/// The criterion that finds a row of `basic_data` which a word matches and no other box has used up.
+QString unmatchedRowCriterion(const QString& word);
+
+/// Whether a box of a cloze holds its word.
+bool isClozeAnswer(const QString& word, const QString& boxText);
+
 /// The hint of a word: its first letter.
 QString firstLetter(const QString& word);
 

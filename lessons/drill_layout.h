@@ -70,6 +70,20 @@ constexpr int promptTotal(const DrillLayout& layout) {
 
 namespace layouts {
 extern const DrillLayout plurals;
+extern const DrillLayout uncountables;
+extern const DrillLayout measures;
+extern const DrillLayout reading;
+extern const DrillLayout articles;
+extern const DrillLayout pronouns;
+extern const DrillLayout thirdPerson;
+extern const DrillLayout ingForms;
+extern const DrillLayout adjectives;
+extern const DrillLayout adverbs;
+extern const DrillLayout comparison;
+extern const DrillLayout prepositions;
+extern const DrillLayout regularPast;
+extern const DrillLayout irregularPast;
+extern const DrillLayout numbers;
 }  // namespace layouts
 
 }  // namespace lessons

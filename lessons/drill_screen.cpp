@@ -22,6 +22,7 @@ void DrillScreen::beginClicked() {
         beginLaterPass();
     else
         beginFirstPass();
+    boxesCleared();
     showTyping();
 }
 

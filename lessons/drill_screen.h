@@ -15,6 +15,8 @@ class DrillScreen : public DrillForm {
     void beginClicked() override;
     void quizClicked() override;
     void enterPressed(int box) override;
+    /// The boxes of a new pass stand blank or hinted.
+    virtual void boxesCleared() {}
 
    private:
     void beginFirstPass();
