@@ -55,7 +55,7 @@ void AnswerListDrill::beginClicked() {
 void AnswerListDrill::boxesCleared() {
     if (!session().isTeacher())
         return;
-    basicRs.moveFirst();
+    toFirstRow();
     for (int i = 0; !basicRs.eof(); ++i, basicRs.moveNext())
         txtWord(i).setText(basicRs.text(QStringLiteral("word2")));
 }

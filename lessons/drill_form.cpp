@@ -263,6 +263,11 @@ void DrillForm::openRows() {
     basicRs = contentDb.openRecordset(stepQuery("basic_data", QStringLiteral(" order by orderno")));
 }
 
+void DrillForm::toFirstRow() {
+    if (isToBeRead(basicRs, SetUse::Needed, "basic_data"))
+        basicRs.moveFirst();
+}
+
 void DrillForm::openBlanks(const QString& rest) {
     blankRs = contentDb.openRecordset(QStringLiteral("Select * from blankno") + rest);
 }

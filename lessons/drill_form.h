@@ -40,6 +40,8 @@ class DrillForm : public course::ExerciseScreen {
     void goToNextListed(int box);
 
     void openRows();
+    /// Puts `basicRs` at its first row. Throws an error that names step, table and count where it has none.
+    void toFirstRow();
     void openBlanks(const QString& rest = QStringLiteral(" order by orderno"));
     void deleteBlanks();
     bool retrying() const { return retryState_ == QStringLiteral("YES"); }

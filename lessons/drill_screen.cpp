@@ -29,7 +29,7 @@ void DrillScreen::beginClicked() {
 void DrillScreen::beginFirstPass() {
     blankAllBoxes();
     if (drill().firstHintFromOrder != never) {
-        for (basicRs.moveFirst(); !basicRs.eof(); basicRs.moveNext()) {
+        for (toFirstRow(); !basicRs.eof(); basicRs.moveNext()) {
             const int orderNo = basicRs.integer(QStringLiteral("orderno"));
             if (orderNo >= drill().firstHintFromOrder)
                 txtWord(orderNo - 1).setText(firstLetter(basicRs.text(QStringLiteral("word1"))));
@@ -76,7 +76,7 @@ void DrillScreen::listRightWords() {
     openRows();
     // Only the table whose length is counted at run time may have no row to ask for.
     if (!drill().countsRows)
-        basicRs.moveFirst();
+        toFirstRow();
     const QString field =
         drill().rightWord == Field::Word1 ? QStringLiteral("word1") : QStringLiteral("word2");
     for (int blankNo = 0; !basicRs.eof(); ++blankNo, basicRs.moveNext()) {

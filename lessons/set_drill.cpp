@@ -61,7 +61,7 @@ void SetDrill::beginClicked() {
 void SetDrill::beginFirstPass() {
     platform::Batch batch(contentDb);
     deleteBlanks();
-    basicRs.moveFirst();
+    toFirstRow();
     for (int i = 0; !basicRs.eof(); ++i, basicRs.moveNext())
         txtWord(i).setText(firstLetter(basicRs.text(word1)));
     for (int i = 0; i < boxCount(); ++i)
@@ -99,7 +99,7 @@ Int16 SetDrill::countMisses() {
     platform::Batch batch(contentDb);
     deleteBlanks();
     openRows();
-    for (basicRs.moveFirst(); !basicRs.eof(); basicRs.moveNext())
+    for (toFirstRow(); !basicRs.eof(); basicRs.moveNext())
         setField(basicRs, word2, unmatched);
     // From 1, so that 1 stands for none.
     Int16 missCount = 1;
@@ -131,7 +131,7 @@ void SetDrill::showWrongRows() {
     platform::Batch batch(contentDb);
     openRows();
     openBlanks();
-    basicRs.moveFirst();
+    toFirstRow();
     int orderNo = 1;
     for (int i = 0; !basicRs.eof(); ++i, basicRs.moveNext()) {
         const QString word = basicRs.text(word1);

@@ -36,9 +36,7 @@ DrillDesk::DrillDesk(const QString& screen, const std::vector<Row>& rows)
     setTip(QStringLiteral("명사의 복수형"));
     setRules(drill_.ruleLines > 0 ? drill_.ruleLines : 1, session.recordNo);
     if (drill_.promptSource == lessons::Prompts::SecondList)
-        for (int i = 1; i <= drill_.prompts; ++i)
-            exec(courseStore, "INSERT INTO basic_Data2 (orderno2, word) VALUES (" + std::to_string(i) +
-                                  ", 'prompt" + std::to_string(i) + "')");
+        setSecondList(drill_.prompts);
 }
 
 std::vector<Row> DrillDesk::plainRows(int count) {
@@ -52,12 +50,19 @@ std::vector<Row> DrillDesk::plainRows(int count) {
 }
 
 void DrillDesk::setRows(const std::vector<Row>& rows, int record) {
-    std::string sql = "DELETE FROM basic_Data WHERE recordno=" + std::to_string(record) + ";";
+    std::string sql = "BEGIN; DELETE FROM basic_Data WHERE recordno=" + std::to_string(record) + ";";
     for (std::size_t i = 0; i < rows.size(); ++i)
         sql += "INSERT INTO basic_Data (topicno, recordno, orderno, word1, word2, word3) VALUES (" +
                std::to_string(topic) + "," + std::to_string(record) + "," + std::to_string(i + 1) + "," +
                quoted(rows[i].word1) + "," + quoted(rows[i].word2) + "," + quoted(rows[i].word3) + ");";
-    exec(courseStore, sql);
+    exec(courseStore, sql + "COMMIT");
+}
+
+void DrillDesk::setSecondList(int count) {
+    std::string sql = "BEGIN; DELETE FROM basic_Data2;";
+    for (int i = 1; i <= count; ++i)
+        sql += "INSERT INTO basic_Data2 (orderno2, word) VALUES (" + std::to_string(i) + ", 'prompt" + std::to_string(i) + "');";
+    exec(courseStore, sql + "COMMIT");
 }
 
 void DrillDesk::setTip(const QString& text) {
@@ -67,11 +72,11 @@ void DrillDesk::setTip(const QString& text) {
 }
 
 void DrillDesk::setRules(int count, int record) {
-    std::string sql = "DELETE FROM gram_tip2;";
+    std::string sql = "BEGIN; DELETE FROM gram_tip2;";
     for (int i = 1; i <= count; ++i)
         sql += "INSERT INTO gram_tip2 (topicno, recordno, orderno, tip2) VALUES (" + std::to_string(topic) +
                "," + std::to_string(record) + "," + std::to_string(i) + ",'rule " + std::to_string(i) + "');";
-    exec(courseStore, sql);
+    exec(courseStore, sql + "COMMIT");
 }
 
 core::Screen* DrillDesk::open() {
@@ -125,11 +130,24 @@ void DrillDesk::answer(int index, const QString& word) {
 
 QStringList DrillDesk::rightWords() const {
     QStringList words;
-    for (const Row& row : rows_)
-        words.append(drill_.rightWord == lessons::Field::Word1 || drill_.plainFromOrder == lessons::always
-                         ? row.word1
-                         : row.word2);
+    for (const Row& row : rows_) {
+        const bool plain = static_cast<int>(words.size()) + 1 >= drill_.plainFromOrder;
+        words.append(plain || drill_.rightWord == lessons::Field::Word1 ? row.word1 : row.word2);
+    }
     return words;
+}
+
+void DrillDesk::answerAndCheck(const std::vector<int>& wrong) {
+    QStringList words = rightWords();
+    for (const int index : wrong)
+        words[index] = QStringLiteral("zzz");
+    answer(words);
+    check();
+}
+
+void DrillDesk::fail(const std::vector<int>& wrong) {
+    begin();
+    answerAndCheck(wrong);
 }
 
 void DrillDesk::key(int index, Qt::Key key) {

@@ -33,6 +33,7 @@ class DrillDesk : public support::Desk {
     static std::vector<Row> plainRows(int count);
 
     void setRows(const std::vector<Row>& rows, int record);
+    void setSecondList(int count);
     void setTip(const QString& text);
     void setRules(int count, int record);
 
@@ -57,6 +58,10 @@ class DrillDesk : public support::Desk {
     void answer(int index, const QString& word);
     /// The right words of the rows, in order.
     QStringList rightWords() const;
+    /// Types all rows' words, but rubbish into some boxes, and presses the check.
+    void answerAndCheck(const std::vector<int>& wrong = {});
+    /// The same after a press of Begin.
+    void fail(const std::vector<int>& wrong);
     void key(int index, Qt::Key key);
     /// The number of the box that has the focus, -1 without one.
     int focusedBox();
