@@ -3,6 +3,7 @@
 #include "core/login_panel.h"
 #include "core/study_time.h"
 #include "course/course_table.h"
+#include "lessons/lessons.h"
 #include "quizzes/quiz_maker.h"
 
 namespace app {
@@ -24,6 +25,9 @@ ScreenMakers allScreens() {
     for (const quizzes::QuizEntry& quiz : quizzes::quizEntries())
         makers.insert(QLatin1String(quiz.form),
                       [&quiz](core::Context& context) { return quizzes::makeQuiz(context, quiz); });
+    for (const lessons::Drill& drill : lessons::drillCatalogue())
+        makers.insert(QString::fromUtf8(drill.name),
+                      [&drill](core::Context& context) { return lessons::makeLesson(context, drill); });
     return makers;
 }
 

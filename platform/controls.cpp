@@ -294,6 +294,14 @@ StoryBox::StoryBox(QWidget* parent) : QPlainTextEdit(parent) {
     setTabChangesFocus(true);
 }
 
+DropList::DropList(QWidget* parent) : QComboBox(parent) {
+    setMaxVisibleItems(16);
+    connect(this, &QComboBox::activated, this, [this] {
+        if (onClick)
+            onClick();
+    });
+}
+
 CommandButton::CommandButton(const QString& caption, QWidget* parent) : QPushButton(caption, parent) {
     setAccessibleName(caption);
     setMouseTracking(true);
