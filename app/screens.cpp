@@ -3,6 +3,9 @@
 #include "core/login_panel.h"
 #include "core/study_time.h"
 #include "course/course_table.h"
+#include "video/player_window.h"
+#include "video/step_video.h"
+#include "video/video_menu.h"
 
 namespace app {
 
@@ -20,6 +23,9 @@ ScreenMakers allScreens() {
     makers.insert(QStringLiteral("frmLogIn2"), maker<core::LoginPanel>());
     makers.insert(QStringLiteral("frmTime"), maker<core::StudyTime>());
     makers.insert(QStringLiteral("frmTable"), maker<course::CourseTable>());
+    makers.insert(QStringLiteral("frmVideo"), maker<video::VideoMenu>());
+    makers.insert(QStringLiteral("frmVideo2"), maker<video::PlayerWindow>());
+    makers.insert(QStringLiteral("frmVideo_2014"), maker<video::StepVideo>());
     return makers;
 }
 
