@@ -50,6 +50,9 @@ void ScreenLoop::show(const QString& screen, const std::function<void()>& closed
     form->show();
     form->raise();
     form->activateWindow();
+    // The keyboard starts on the form itself, so that no button shows a focus mark before Tab was pressed.
+    if (form->focusWidget() == nullptr)
+        form->setFocus();
 }
 
 void ScreenLoop::screenGone(const std::function<void()>& closed) {

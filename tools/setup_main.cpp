@@ -1,0 +1,95 @@
+// Makes an install of the starter course, or of a course of one's own, in a folder that plays the drives.
+
+#include "core/startup.h"
+#include "platform/settings.h"
+#include "tools/install.h"
+
+#include <QCommandLineParser>
+#include <QCoreApplication>
+#include <QDir>
+
+#include <unistd.h>
+
+#include <cstdio>
+
+namespace {
+
+const QString application = QStringLiteral("Mendori");
+
+/// One line that grows: "word sounds 120/432".
+void showProgress(const QString& what, int done, int total) {
+    static const bool terminal = isatty(STDOUT_FILENO) != 0;
+    if (terminal)
+        std::printf("\r%-14s %d/%d ", qPrintable(what), done, total);
+    if (done == total)
+        std::printf(terminal ? "\n" : "%s %d/%d\n", qPrintable(what), done, total);
+    std::fflush(stdout);
+}
+
+QString folderBeside(const QString& relative) {
+    return QDir::cleanPath(QCoreApplication::applicationDirPath() + u'/' + relative);
+}
+
+struct Options {
+    QCommandLineOption root{QStringLiteral("root"), QStringLiteral("Folder that plays the drives."), QStringLiteral("folder")};
+    QCommandLineOption course{QStringLiteral("course"), QStringLiteral("Folder with the course's text tables."),
+                              QStringLiteral("folder"), folderBeside(QStringLiteral("../../../starter"))};
+    QCommandLineOption pictures{QStringLiteral("pictures"), QStringLiteral("Folder with the rendered pictures."),
+                                QStringLiteral("folder"), folderBeside(QStringLiteral("../pictures"))};
+    QCommandLineOption reports{QStringLiteral("reports"), QStringLiteral("Folder with the report templates."),
+                               QStringLiteral("folder"), folderBeside(QStringLiteral("../../../reports"))};
+    QCommandLineOption userId{QStringLiteral("user-id"), QStringLiteral("Student number."), QStringLiteral("number")};
+    QCommandLineOption name{QStringLiteral("name"), QStringLiteral("Name on scores and worksheets."), QStringLiteral("name")};
+    QCommandLineOption teacher{QStringLiteral("teacher"), QStringLiteral("Log in as a teacher.")};
+    QCommandLineOption silent{QStringLiteral("no-sounds"), QStringLiteral("Leave the words unspoken.")};
+};
+
+void writeIdentity(const QCommandLineParser& parser, const Options& options) {
+    platform::UserSettings settings;
+    const QString section = QStringLiteral("General Information");
+    if (!parser.isSet(options.userId))
+        return;
+    settings.write(application, section, QStringLiteral("UserID"), parser.value(options.userId));
+    settings.write(application, section, QStringLiteral("Name"), parser.value(options.name));
+    settings.write(application, section, QStringLiteral("Teacher"),
+                   parser.isSet(options.teacher) ? QStringLiteral("Teacher") : QString());
+}
+
+}  // namespace
+
+int main(int argc, char** argv) {
+    const QCoreApplication app(argc, argv);
+    QCoreApplication::setApplicationName(QStringLiteral("setup"));
+    const Options options;
+    QCommandLineParser parser;
+    parser.setApplicationDescription(
+        QStringLiteral("Makes a complete install of a course. Can be run again: scores are never touched."));
+    parser.addHelpOption();
+    parser.addOptions({options.root, options.course, options.pictures, options.reports, options.userId, options.name,
+                       options.teacher, options.silent});
+    parser.process(app);
+
+    const platform::UserSettings settings;
+    const QString knownUser = settings.read(application, QStringLiteral("General Information"), QStringLiteral("UserID"), QString());
+    tools::InstallPlan plan;
+    plan.root = parser.isSet(options.root) ? parser.value(options.root) : core::drivesRoot(settings);
+    plan.courseFolder = parser.value(options.course);
+    plan.pictureFolder = parser.value(options.pictures);
+    plan.reportFolder = parser.value(options.reports);
+    plan.userId = parser.isSet(options.userId) ? parser.value(options.userId) : knownUser;
+    plan.speakWords = !parser.isSet(options.silent);
+    plan.progress = showProgress;
+    if (plan.userId.contains(u'\'') || plan.userId.contains(u'/') || plan.userId.contains(u'\\')) {
+        std::fprintf(stderr, "A student number holds letters and digits, not '%s'.\n", qPrintable(plan.userId));
+        return 2;
+    }
+    try {
+        tools::makeInstall(plan);
+        writeIdentity(parser, options);
+    } catch (const std::exception& failure) {
+        std::fprintf(stderr, "\n%s\n", failure.what());
+        return 1;
+    }
+    std::printf("The course is ready in %s\n", qPrintable(plan.root));
+    return 0;
+}
