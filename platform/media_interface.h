@@ -22,6 +22,8 @@ enum class MediaState { Loading, Playing, Paused, Ended };
 class MediaPlayer {
    public:
     virtual ~MediaPlayer() = default;
+    /// Ends the playing in silence; the listener hears no more, and the player deletes itself.
+    virtual void retire() = 0;
     /// Plays on; after the end, from the start.
     virtual void play() = 0;
     virtual void pause() = 0;

@@ -2,18 +2,33 @@
 
 #include <QAudioDevice>
 #include <QAudioOutput>
+#include <QCoreApplication>
 #include <QMediaDevices>
 #include <QMediaPlayer>
+#include <QTimer>
 #include <QUrl>
 #include <QVideoFrame>
 #include <QVideoSink>
 
 #include <algorithm>
+#include <set>
+#include <utility>
 
 namespace {
 
 using platform::MediaListener;
 using platform::MediaState;
+
+// Long enough for a player that was closed while it started up to have come to rest, in milliseconds.
+constexpr int retirement = 400;
+
+class Player;
+
+/// Players on their way out; those left when the application ends go with it.
+std::set<Player*>& retired() {
+    static std::set<Player*> players;
+    return players;
+}
 
 class Player final : public platform::MediaPlayer {
    public:
@@ -33,12 +48,17 @@ class Player final : public platform::MediaPlayer {
         player_.setSource(QUrl::fromLocalFile(file));
         player_.play();
     }
-    ~Player() override {
-        // Nothing that stopping sets off may reach a listener on its way out.
+    void retire() override {
+        // Stopping at once blocks this thread for 300 to 1000 ms: the back end waits for the very thread that
+        // stops it to take a frame. Paused, and with the event loop free in between, it stops without a wait.
         quiet_ = true;
-        player_.disconnect(&player_);
-        sink_.disconnect(&player_);
-        player_.stop();
+        player_.pause();
+        audio_.setMuted(true);
+        retired().insert(this);
+        QTimer::singleShot(retirement, QCoreApplication::instance(), [this] {
+            retired().erase(this);
+            delete this;
+        });
     }
 
     void play() override { player_.play(); }
@@ -85,23 +105,32 @@ class Player final : public platform::MediaPlayer {
         const auto status = player_.mediaStatus();
         if (status == QMediaPlayer::InvalidMedia)
             fail(player_.errorString());
-        else if (status == QMediaPlayer::EndOfMedia && !started_)
+        else if ((status == QMediaPlayer::EndOfMedia && !started_) ||
+                 (status == QMediaPlayer::BufferedMedia && !player_.hasVideo()))
             fail(QStringLiteral("The file holds no picture."));
         else
             progressed();
     }
 
     MediaListener& listener_;
-    QMediaPlayer player_;
     QAudioOutput audio_;
     QVideoSink sink_;
+    QMediaPlayer player_;
     bool started_ = false;
     bool quiet_ = false;
 };
+
+void endRetired() {
+    const std::set<Player*> left = std::exchange(retired(), {});
+    for (Player* player : left)
+        delete player;
+}
 
 }  // namespace
 
 extern "C" __attribute__((visibility("default"))) platform::MediaPlayer* mendori_media_create(
     const QString& file, MediaListener& listener) {
+    static const bool registered = (qAddPostRoutine(endRetired), true);
+    Q_UNUSED(registered)
     return new Player(file, listener);
 }

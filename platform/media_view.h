@@ -59,7 +59,10 @@ class MediaView final : public QWidget, private MediaListener {
     QImage picture_;
     double volume_ = 1.0;
     QLabel* lblFailure_;
-    std::unique_ptr<MediaPlayer> player_;
+    struct Retire {
+        void operator()(MediaPlayer* player) const { player->retire(); }
+    };
+    std::unique_ptr<MediaPlayer, Retire> player_;
 };
 
 }  // namespace platform

@@ -124,7 +124,7 @@ class Layout {
         }
     }
     /// Before which lines to turn the page: the pages' unused room, squared, is to be least in sum, and an
-    /// example parted from what it is an example of counts as a page of its own.
+    /// example parted from what it is an example of counts as two pages more.
     std::vector<bool> pageTurns(const Slide& block) const {
         const std::size_t count = block.size();
         std::vector<double> cost(count + 1, std::numeric_limits<double>::infinity());
@@ -138,7 +138,7 @@ class Layout {
                 if (used > room_ && end > start)
                     break;
                 const double spare = 1.0 - static_cast<double>(used) / room_;
-                const double total = cost[start] + 1.0 + spare * spare + (parts ? 1.0 : 0.0);
+                const double total = cost[start] + 1.0 + spare * spare + (parts ? 2.0 : 0.0);
                 if (total < cost[end + 1]) {
                     cost[end + 1] = total;
                     from[end + 1] = start;

@@ -28,6 +28,8 @@ StepVideo::StepVideo(core::Context& context)
     PictureButton& exit = addHoverButton(QStringLiteral("picExit"), QRect(872, 456, 104, 76),
                                          QStringLiteral("next"), QStringLiteral("Go on to the lesson"));
     exit.onClick = [this] { exitClicked(); };
+    // Space goes on as soon as the player is closed.
+    exit.setFocus();
     PictureButton& end = addHoverButton(QStringLiteral("picExit2"), QRect(832, 16, 136, 44),
                                         QStringLiteral("exits"), QStringLiteral("Exit"));
     end.onClick = [this] { endProgram(); };

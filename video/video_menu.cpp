@@ -4,18 +4,17 @@
 #include "video/tips.h"
 #include "video/video_files.h"
 
-#include <QPointer>
-
 namespace video {
 
 using platform::TextRole;
 
 namespace {
 
-constexpr int listLeft = 28;
+constexpr int listLeft = 22;
+constexpr int focusMargin = 6;  // between a title and its focus mark
 constexpr int listTop = 124;
 constexpr int pitch = 23;
-constexpr QSize rowSize(270, 19);
+constexpr QSize rowSize(280, 20);
 
 QRect rowPlace(int row) {
     return {QPoint(listLeft, listTop + row * pitch), rowSize};
@@ -23,6 +22,7 @@ QRect rowPlace(int row) {
 
 void makeClickable(Label& label, std::function<void()> clicked) {
     label.setFocusPolicy(Qt::TabFocus);
+    label.setContentsMargins(focusMargin, 0, focusMargin, 0);
     label.setCursor(Qt::PointingHandCursor);
     label.onClick = std::move(clicked);
 }
@@ -48,8 +48,8 @@ void VideoMenu::buildHeader() {
         QStringLiteral("아래에서 문법 타이틀을 클릭하면 해당 레슨의 설명과 함께 동영상 레슨으로 학습할 수 "
                        "있습니다."));
     guide.setWordWrap(true);
-    addLabel(QStringLiteral("Label1"), QRect(listLeft, 94, rowSize.width(), 26), TextRole::Heading,
-             QStringLiteral("Title"))
+    addLabel(QStringLiteral("Label1"), QRect(listLeft + focusMargin, 94, rowSize.width(), 26),
+             TextRole::Heading, QStringLiteral("Title"))
         .setForeColor(platform::colour::accent);
 }
 
@@ -78,14 +78,14 @@ void VideoMenu::loadTopics() {
 }
 
 void VideoMenu::topicClicked(int index) {
-    if (playing_)
+    if (opening_)
         return;
     showTips(index + 1);
     play(menuVideoFile(session().videoRoot, index));
 }
 
 void VideoMenu::secondTopicClicked() {
-    if (playing_)
+    if (opening_)
         return;
     showTips(1);
     play(secondVideoFile(session().videoRoot));
@@ -98,11 +98,9 @@ void VideoMenu::showTips(int topicNo) {
 void VideoMenu::play(const QString& file) {
     session().videoFile = file;
     // The player opens after this handler; a second click on the way there must not bring up another.
-    playing_ = true;
-    context().navigator.open(QStringLiteral("frmVideo2"), [menu = QPointer(this)] {
-        if (menu)
-            menu->playing_ = false;
-    });
+    opening_ = true;
+    context().navigator.open(QStringLiteral("frmVideo2"));
+    QMetaObject::invokeMethod(this, [this] { opening_ = false; }, Qt::QueuedConnection);
 }
 
 void VideoMenu::topicHovered(int index) {

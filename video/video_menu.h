@@ -28,7 +28,7 @@ class VideoMenu final : public VideoScreen {
     platform::ControlArray<Label> lblTopic_{QStringLiteral("lblTopic")};
     Label* lblTopic2_ = nullptr;
     StoryBox* txtStory_ = nullptr;
-    bool playing_ = false;
+    bool opening_ = false;
 };
 
 }  // namespace video

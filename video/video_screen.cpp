@@ -29,6 +29,9 @@ StoryBox& VideoScreen::addStory(const QRect& place) {
     font.setBold(false);
     story.setFont(font);
     story.setAccessibleName(QStringLiteral("Grammar tips"));
+    QPalette palette = story.palette();
+    palette.setColor(QPalette::Base, QColor::fromRgb(platform::colour::paper));
+    story.setPalette(palette);
     return story;
 }
 
