@@ -73,7 +73,7 @@ void ExerciseScreen::buildCaptions(const ChromeLayout& layout) {
     if (*layout.nextCaption != '\0')
         caption(QStringLiteral("lblNextCaption"), layout.nextTop, layout.nextCaption);
     if (*layout.preCaption != '\0')
-        caption(QStringLiteral("lblPreCaption"), layout.preTop, layout.preCaption);
+        caption(QLatin1String(layout.preLabelName), layout.preTop, layout.preCaption);
     addLabel(QLatin1String(layout.topicName), QRect(24, 20, 640, 36), TextRole::Title, session().stepTitle);
 }
 

@@ -26,6 +26,7 @@ struct ChromeLayout {
     const char* quizLabelName = "lblAnswer";
     const char* quizCaption = "Answer";
     const char* nextCaption = "Next Lesson";
+    const char* preLabelName = "lblPreCaption";
     const char* preCaption = "Voca Quiz";
     // The control that shows the step's title.
     const char* topicName = "lblTopic";

@@ -41,7 +41,7 @@ void fuzz(VideoDesk& desk, const QString& screen, unsigned seed) {
 }
 
 TEST(VideoScreens, RandomEventsOnTheMenuDoNoHarm) {
-    for (const unsigned seed : {11U, 12U, 13U, 14U}) {
+    for (const unsigned seed : {11U, 12U}) {
         VideoDesk desk;
         desk.makeVideo(3, 1.0);
         fuzz(desk, QStringLiteral("frmVideo"), seed);
@@ -49,7 +49,7 @@ TEST(VideoScreens, RandomEventsOnTheMenuDoNoHarm) {
 }
 
 TEST(VideoScreens, RandomEventsOnTheStepsVideoDoNoHarm) {
-    for (const unsigned seed : {21U, 22U, 23U, 24U}) {
+    for (const unsigned seed : {21U, 22U}) {
         VideoDesk desk;
         desk.session.recordNo = 21;
         desk.makeVideo(3, 1.0);
