@@ -5,6 +5,9 @@
 #include "course/course_table.h"
 #include "lessons/lessons.h"
 #include "quizzes/quiz_maker.h"
+#include "video/player_window.h"
+#include "video/step_video.h"
+#include "video/video_menu.h"
 
 namespace app {
 
@@ -28,6 +31,9 @@ ScreenMakers allScreens() {
     for (const lessons::Drill& drill : lessons::drillCatalogue())
         makers.insert(QString::fromUtf8(drill.name),
                       [&drill](core::Context& context) { return lessons::makeLesson(context, drill); });
+    makers.insert(QStringLiteral("frmVideo"), maker<video::VideoMenu>());
+    makers.insert(QStringLiteral("frmVideo2"), maker<video::PlayerWindow>());
+    makers.insert(QStringLiteral("frmVideo_2014"), maker<video::StepVideo>());
     return makers;
 }
 
