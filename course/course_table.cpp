@@ -51,6 +51,7 @@ CourseTable::CourseTable(core::Context& context) : Screen(context, QStringLitera
     buildTopics();
     buildRows();
     clearRows();
+    orderTabs();
     timerGo_ = new platform::Timer(QStringLiteral("TimerGo"), 1, this);
     timerGo_->onTick = [this] { firstTick(); };
     timerGo_->setEnabled(true);
@@ -144,6 +145,18 @@ void CourseTable::buildRows() {
             label->setCursor(hand);
     for (Label* topic : lblTopic_)
         topic->setCursor(hand);
+}
+
+/// Tab goes along the header, then down the units and the steps.
+void CourseTable::orderTabs() {
+    std::vector<QWidget*> stops;
+    for (const char* name : {"picStudy", "picRepeat", "picVideo", "picFinal", "picExit"})
+        stops.push_back(findChild<PictureButton*>(QLatin1String(name)));
+    stops.insert(stops.end(), lblTopic_.begin(), lblTopic_.end());
+    stops.insert(stops.end(), lblTitle_.begin(), lblTitle_.end());
+    stops.insert(stops.end(), {picUp_, picDown_});
+    for (std::size_t i = 1; i < stops.size(); ++i)
+        setTabOrder(stops[i - 1], stops[i]);
 }
 
 void CourseTable::firstTick() {

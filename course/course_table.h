@@ -27,6 +27,7 @@ class CourseTable final : public core::Screen {
     void buildHeader();
     void buildTopics();
     void buildRows();
+    void orderTabs();
     void firstTick();
     void showTopicTitle();
     void ListTopicRows();

@@ -6,6 +6,7 @@
 #include <QKeyEvent>
 #include <QMouseEvent>
 #include <QPainter>
+#include <QPainterPath>
 #include <QStyleOptionFocusRect>
 
 #include <array>
@@ -39,6 +40,53 @@ void paintFocusMark(QWidget& widget) {
     painter.setRenderHint(QPainter::Antialiasing);
     painter.setPen(QPen(QColor::fromRgb(colour::accent), 2));
     painter.drawRoundedRect(QRectF(widget.rect()).adjusted(1.5, 1.5, -1.5, -1.5), 5, 5);
+}
+
+/// The sign of a mark, drawn in a square of 10 by 10 around the origin: a tick, a cross or a padlock.
+QPainterPath markPath(BoxMark mark) {
+    QPainterPath path;
+    if (mark == BoxMark::Right) {
+        path.moveTo(-4, 0);
+        path.lineTo(-1, 3.5);
+        path.lineTo(4.5, -4);
+    } else if (mark == BoxMark::Wrong) {
+        path.moveTo(-3.5, -3.5);
+        path.lineTo(3.5, 3.5);
+        path.moveTo(3.5, -3.5);
+        path.lineTo(-3.5, 3.5);
+    } else if (mark == BoxMark::Given) {
+        path.addRoundedRect(QRectF(-4, -0.5, 8, 5.5), 1, 1);
+        path.moveTo(-2.5, -0.5);
+        path.arcTo(QRectF(-2.5, -5, 5, 6), 180, -180);
+        path.lineTo(2.5, -0.5);
+    }
+    return path;
+}
+
+void paintBoxMark(QWidget& box, BoxMark mark) {
+    constexpr double signSpace = 24;
+    const double scale = box.height() / signSpace;
+    const bool wrong = mark == BoxMark::Wrong;
+    QPainter painter(&box);
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(QPen(QColor::fromRgb(wrong ? colour::red : colour::accent), 2, Qt::SolidLine, Qt::RoundCap,
+                        Qt::RoundJoin));
+    painter.translate(box.width() - 11 * scale, box.height() / 2.0);
+    painter.scale(scale, scale);
+    painter.drawPath(markPath(mark));
+    painter.resetTransform();
+    if (wrong)
+        painter.drawLine(QPointF(4, box.height() - 2.5), QPointF(box.width() - 4, box.height() - 2.5));
+}
+
+QString markDescription(BoxMark mark) {
+    switch (mark) {
+        case BoxMark::None: return {};
+        case BoxMark::Right: return QStringLiteral("Right");
+        case BoxMark::Wrong: return QStringLiteral("Wrong, the right answer is shown");
+        case BoxMark::Given: return QStringLiteral("Given");
+    }
+    return {};
 }
 
 }  // namespace
@@ -149,6 +197,14 @@ void TextBox::setLocked(bool locked) {
     setReadOnly(locked);
 }
 
+void TextBox::setMark(BoxMark mark) {
+    if (mark_ == mark)
+        return;
+    mark_ = mark;
+    setAccessibleDescription(markDescription(mark));
+    update();
+}
+
 void TextBox::selectAndFocus() {
     setFocus();
     selectAll();
@@ -187,6 +243,14 @@ void TextBox::mouseReleaseEvent(QMouseEvent* event) {
 void TextBox::mouseMoveEvent(QMouseEvent* event) {
     QLineEdit::mouseMoveEvent(event);
     event->accept();
+}
+
+void TextBox::paintEvent(QPaintEvent* event) {
+    QLineEdit::paintEvent(event);
+    if (mark_ != BoxMark::None)
+        paintBoxMark(*this, mark_);
+    if (hasFocus())
+        paintFocusMark(*this);
 }
 
 StoryBox::StoryBox(QWidget* parent) : QPlainTextEdit(parent) {

@@ -57,6 +57,9 @@ class Label : public QLabel {
     bool pressed_ = false;
 };
 
+/// What a box tells of its answer beside its colours: a small sign at its right edge.
+enum class BoxMark { None, Right, Wrong, Given };
+
 /// A one-line box. Takes Latin letters whatever the keyboard mode.
 class TextBox : public QLineEdit {
     Q_OBJECT
@@ -70,6 +73,9 @@ class TextBox : public QLineEdit {
     /// A locked box takes the focus but no typing.
     void setLocked(bool locked);
     bool locked() const { return isReadOnly(); }
+    /// A screen reader is told the same.
+    void setMark(BoxMark mark);
+    BoxMark mark() const { return mark_; }
     /// Selects the whole text and takes the focus, so that typing replaces it.
     void selectAndFocus();
 
@@ -82,6 +88,10 @@ class TextBox : public QLineEdit {
     void inputMethodEvent(QInputMethodEvent* event) override;
     void mouseReleaseEvent(QMouseEvent* event) override;
     void mouseMoveEvent(QMouseEvent* event) override;
+    void paintEvent(QPaintEvent* event) override;
+
+   private:
+    BoxMark mark_ = BoxMark::None;
 };
 
 /// A read-only text of many lines with a scroll bar where it needs one.

@@ -1,0 +1,233 @@
+#include "tests/support/desk.h"
+
+#include "app/screens.h"
+#include "platform/application.h"
+#include "platform/timer.h"
+#include "tools/store_writer.h"
+#include "tools/wave.h"
+
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+#include <QMouseEvent>
+#include <SQLiteCpp/SQLiteCpp.h>
+
+#include <array>
+
+namespace support {
+
+namespace {
+
+struct Place {
+    const char* store;
+    const char* path;
+};
+
+constexpr std::array stores{
+    Place{"tovalin.mdb", "D/tovalin.mdb"},
+    Place{"tovalin.mdb", "C/Larkfield/Larkfield2013/Tovalin1/tovalin.mdb"},
+    Place{"Tovalin_Data.mdb", "D/Tovalin_Data.mdb"},
+    Place{"testword_im.mdb", "D/testword_im.mdb"},
+    Place{"testword_2013.mdb", "D/testword_2013.mdb"},
+    Place{"dicword_K.mdb", "D/dicword_K.mdb"},
+    Place{"dicword.mdb", "C/A_Mendori/Main/dicword.mdb"},
+    Place{"Pversion_2026.mdb", "C/A_Mendori/Main/Pversion_2026.mdb"},
+};
+
+platform::Application& application() {
+    return *static_cast<platform::Application*>(QCoreApplication::instance());
+}
+
+bool firstTickDone(const core::Screen* screen) {
+    const auto* timer = screen->findChild<platform::Timer*>(QStringLiteral("TimerGo"));
+    return timer == nullptr || !timer->enabled();
+}
+
+void moveMouse(QWidget& widget, QPoint place) {
+    QMouseEvent event(QEvent::MouseMove, place, widget.mapToGlobal(place), Qt::NoButton, Qt::NoButton, Qt::NoModifier);
+    QCoreApplication::sendEvent(&widget, &event);
+}
+
+/// A place of a form that no visible control covers.
+QPoint barePlace(const QWidget& form) {
+    for (int y = 1; y < form.height(); y += 3)
+        for (int x = 1; x < form.width(); x += 3)
+            if (form.childAt(x, y) == nullptr)
+                return {x, y};
+    return {};
+}
+
+}  // namespace
+
+float FakeRandom::next() {
+    if (!draws.empty()) {
+        const float drawn = draws.front();
+        draws.pop_front();
+        return drawn;
+    }
+    state_ = state_ * 6364136223846793005ULL + 1442695040888963407ULL;
+    return static_cast<float>(state_ >> 40U) * 0x1.0p-24F;
+}
+
+void FakeRandom::queueNumbers(const std::vector<int>& numbers, int count) {
+    for (const int number : numbers)
+        draws.push_back((static_cast<float>(number) - 0.5F) / static_cast<float>(count));
+}
+
+QString FakeSettings::read(const QString& application, const QString& section, const QString& key,
+                           const QString& fallback) const {
+    const auto found = values.find(application + u'/' + section + u'/' + key);
+    return found == values.end() ? fallback : found->second;
+}
+
+void FakeSettings::write(const QString& application, const QString& section, const QString& key, const QString& value) {
+    values[application + u'/' + section + u'/' + key] = value;
+}
+
+QStringList SoundList::names() const {
+    QStringList names;
+    for (const Played& sound : played)
+        names.append(QFileInfo(sound.file).fileName());
+    return names;
+}
+
+bool MessageList::show(const platform::Message& message) {
+    shown.push_back(message);
+    if (onShow)
+        onShow(message);
+    if (answers.empty())
+        return true;
+    const bool answer = answers.front();
+    answers.pop_front();
+    return answer;
+}
+
+QStringList MessageList::texts() const {
+    QStringList texts;
+    for (const platform::Message& message : shown)
+        texts.append(message.text);
+    return texts;
+}
+
+Desk::Desk(const QString& userId) : root_(folder_.path()), drives_(std::make_unique<platform::Drives>(root_)) {
+    makeStores();
+    tools::writeStore(file(QStringLiteral("C:\\A_Mendori\\Main\\DbScore_%1.mdb").arg(userId)), QStringLiteral("DbScore"), {});
+    screens_ = std::make_unique<app::ScreenLoop>(app::allScreens());
+    frame_ = std::make_unique<QWidget>();
+    frame_->setObjectName(QStringLiteral("frmFrame"));
+    frame_->resize(1280, 1024);
+    frame_->show();
+    context_ = std::make_unique<core::Context>(core::Context{session, *drives_, settings, clock, random, sound, boxes,
+                                                             *screens_, QStringLiteral("D:\\"), frame_.get()});
+    screens_->setContext(*context_);
+    session.userId = userId;
+    session.userName = QStringLiteral("김하늘");
+    session.programCode = QStringLiteral("Tovalin1");
+    session.vocaFirst = QStringLiteral("YES");
+    session.today = clock.day;
+    session.mediaDrive = QStringLiteral("D:");
+    session.mediaSoundDir = QStringLiteral("D:\\A_Mendori\\ABCSound\\");
+    session.videoRoot = QStringLiteral("D:\\A_Mendori\\Mendori_Program\\Tovalin1_Video\\");
+    session.appDir = QStringLiteral("D:\\\\");
+    application().onFailure = [this](const std::exception& failure) {
+        if (failure_.isEmpty())
+            failure_ = platform::failureText(failure);
+    };
+}
+
+Desk::~Desk() {
+    session.closeDictionary();
+    session.scoreRs.close();
+    session.scoreDb.close();
+    frame_.reset();
+    application().onFailure = [](const std::exception&) {};
+    settle();
+}
+
+void Desk::makeStores() {
+    const QDir root(root_);
+    for (const char* folder : {"C/A_Mendori/Main", "C/Larkfield/Larkfield2013/Tovalin1", "D/A_Mendori/ABCPicture",
+                               "D/A_Mendori/ABCSound", "D/A_Mendori/Mendori_Program/Tovalin1_Video", "E"})
+        root.mkpath(QLatin1String(folder));
+    for (const Place& place : stores)
+        tools::writeStore(root.filePath(QLatin1String(place.path)), QLatin1String(place.store), {});
+    const QString pictures = QStringLiteral(MENDORI_PICTURES);
+    QFile::link(pictures + QStringLiteral("/interface"), root.filePath(QStringLiteral("D/interface")));
+    QFile::link(pictures + QStringLiteral("/button"), root.filePath(QStringLiteral("D/button")));
+    QFile::copy(pictures + QStringLiteral("/button/hand.cur"), root.filePath(QStringLiteral("D/harrow.cur")));
+    QFile::copy(pictures + QStringLiteral("/interface/login.jpg"),
+                root.filePath(QStringLiteral("D/A_Mendori/ABCPicture/Mendori.jpg")));
+    for (const auto& [name, wave] : tools::effects())
+        tools::writeWave(root.filePath(QStringLiteral("D/") + name), wave);
+}
+
+QString Desk::file(const QString& drivePath) const {
+    return drives_->resolve(drivePath);
+}
+
+void Desk::exec(const QString& store, const std::string& sql) const {
+    SQLite::Database database(file(store).toStdString(), SQLite::OPEN_READWRITE, 5000);
+    database.exec(sql);
+}
+
+QStringList Desk::rows(const QString& store, const std::string& sql) const {
+    SQLite::Database database(file(store).toStdString(), SQLite::OPEN_READONLY, 5000);
+    SQLite::Statement query(database, sql);
+    QStringList rows;
+    while (query.executeStep()) {
+        QStringList fields;
+        for (int i = 0; i < query.getColumnCount(); ++i)
+            fields.append(query.getColumn(i).isNull() ? QStringLiteral("NULL")
+                                                      : QString::fromUtf8(query.getColumn(i).getText()));
+        rows.append(fields.join(u'|'));
+    }
+    return rows;
+}
+
+core::Screen* Desk::open(const QString& screen) {
+    screens_->open(screen);
+    return awaitScreen(screen);
+}
+
+core::Screen* Desk::awaitScreen(const QString& screen) {
+    const auto stands = [&] {
+        core::Screen* shown = top();
+        return !failure_.isEmpty() || (shown != nullptr && shown->objectName() == screen && firstTickDone(shown));
+    };
+    if (!waitFor(stands) || !failure_.isEmpty())
+        return nullptr;
+    settle();
+    return top();
+}
+
+bool waitFor(const std::function<bool()>& condition, int milliseconds) {
+    return QTest::qWaitFor(condition, milliseconds);
+}
+
+void click(QWidget& control) {
+    QTest::mouseClick(&control, Qt::LeftButton, Qt::NoModifier, control.rect().center());
+    settle();
+}
+
+void hover(QWidget& control) {
+    moveMouse(control, control.isWindow() ? barePlace(control) : control.rect().center());
+}
+
+void type(QWidget& control, const QString& text) {
+    for (const QChar c : text)
+        QTest::keyClick(&control, c.toLatin1());
+}
+
+void settle() {
+    for (int i = 0; i < 3; ++i) {
+        QCoreApplication::sendPostedEvents();
+        QCoreApplication::processEvents();
+        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    }
+}
+
+QString focusName(const QWidget* form) {
+    return form != nullptr && form->focusWidget() != nullptr ? form->focusWidget()->objectName() : QString();
+}
+
+}  // namespace support

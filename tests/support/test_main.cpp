@@ -1,0 +1,32 @@
+// Runs the tests of a room on windows of the offscreen platform, on a screen that every form fits on.
+
+#include "platform/application.h"
+#include "platform/look.h"
+
+#include <QFile>
+#include <QTemporaryDir>
+
+#include <gtest/gtest.h>
+
+int main(int argc, char** argv) {
+    const QTemporaryDir home;
+    const QString screen = home.filePath(QStringLiteral("screen.json"));
+    QFile file(screen);
+    if (file.open(QIODevice::WriteOnly))
+        file.write(R"({"synchronousWindowSystemEvents": true, "windowFrameMargins": false, "screens": [{"name": "test",
+                      "x": 0, "y": 0, "width": 1280, "height": 1024, "logicalDpi": 96, "logicalBaseDpi": 96, "dpr": 1}]})");
+    file.close();
+    if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM"))
+        qputenv("QT_QPA_PLATFORM", "offscreen:configfile=" + screen.toUtf8());
+    qputenv("XDG_CONFIG_HOME", home.filePath(QStringLiteral("config")).toUtf8());
+    qputenv("XDG_DATA_HOME", home.filePath(QStringLiteral("data")).toUtf8());
+    qputenv("XDG_RUNTIME_DIR", home.path().toUtf8());
+    qputenv("SDL_AUDIODRIVER", "dummy");
+    qunsetenv("MENDORI_ROOT");
+
+    ::testing::InitGoogleTest(&argc, argv);
+    platform::Application application(argc, argv);
+    application.onFailure = [](const std::exception& failure) { ADD_FAILURE() << failure.what(); };
+    platform::setUpLook();
+    return RUN_ALL_TESTS();
+}

@@ -1,0 +1,201 @@
+#include "tools/course_source.h"
+
+#include "core/schema.h"
+
+#include <QDir>
+#include <QRegularExpression>
+
+#include <algorithm>
+#include <array>
+
+namespace tools {
+
+using platform::Value;
+
+namespace {
+
+/// A table that authors write, and the store that it lands in.
+struct AuthoredTable {
+    const char* table;
+    const char* store;
+};
+
+constexpr std::array authoredTables{
+    AuthoredTable{"topic", "tovalin.mdb"},
+    AuthoredTable{"tablework", "tovalin.mdb"},
+    AuthoredTable{"newword", "tovalin.mdb"},
+    AuthoredTable{"gram_tip2", "tovalin.mdb"},
+    AuthoredTable{"basic_data3", "tovalin.mdb"},
+    AuthoredTable{"tablework_final_data", "tovalin.mdb"},
+    AuthoredTable{"tovalin1_quiz_data", "Tovalin_Data.mdb"},
+    AuthoredTable{"tovalin1_basic_data", "Tovalin_Data.mdb"},
+    AuthoredTable{"tovalin1_gram_tip", "Tovalin_Data.mdb"},
+    AuthoredTable{"tovalin1_basicdata_115", "Tovalin_Data.mdb"},
+};
+
+QString fromView(std::string_view text) {
+    return QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
+}
+
+bool isAuthored(const QString& table) {
+    return std::any_of(authoredTables.begin(), authoredTables.end(), [&](const AuthoredTable& t) {
+        return table.compare(QLatin1String(t.table), Qt::CaseInsensitive) == 0;
+    });
+}
+
+void readFolder(CourseSource& course, const QString& folder, const QString& shownPrefix, int topicNo) {
+    const QDir dir(folder);
+    for (const QString& name : dir.entryList({QStringLiteral("*.csv")}, QDir::Files, QDir::Name)) {
+        TableFile table = readTableFile(dir.filePath(name), shownPrefix + name);
+        if (!isAuthored(table.table))
+            throw SourceError({table.file, 0, {}}, QStringLiteral("a course has no table of this name"));
+        course.tables.push_back({topicNo, std::move(table)});
+    }
+}
+
+Value parseValue(const TableFile& table, const TableRow& row, const core::FieldShape& field, const QString& name) {
+    const QString text = table.field(row, name);
+    if (field.kind == core::FieldKind::Text || field.kind == core::FieldKind::Date)
+        return text;
+    if (text.isEmpty())
+        return {};
+    bool isNumber = false;
+    const qlonglong number = text.toLongLong(&isNumber);
+    if (!isNumber)
+        throw SourceError(table.place(row, name), QStringLiteral("'%1' is not a whole number").arg(text));
+    return static_cast<std::int64_t>(number);
+}
+
+/// Fills a field that is empty in every row of a group with 1, 2, 3 …; groups are rows of the same key.
+void numberRows(BuiltTable& table, const QString& field, const QString& key) {
+    const int column = table.column(field);
+    std::map<qlonglong, std::int64_t> last;
+    for (BuiltRow& row : table.rows) {
+        const bool grouped = !key.isEmpty() && !table.value(row, key).isNull();
+        const qlonglong group = grouped ? static_cast<int>(table.value(row, key).toInt16()) : 0;
+        auto& value = row.values[static_cast<std::size_t>(column)];
+        if (value.isNull())
+            value = ++last[group];
+    }
+}
+
+std::map<int, int> countByRecord(const BuiltTable& table) {
+    std::map<int, int> counts;
+    for (const BuiltRow& row : table.rows)
+        if (!table.value(row, QStringLiteral("recordno")).isNull())
+            ++counts[table.value(row, QStringLiteral("recordno")).toInt16()];
+    return counts;
+}
+
+}  // namespace
+
+std::vector<const CourseSource::UnitTable*> CourseSource::named(const QString& table) const {
+    std::vector<const UnitTable*> found;
+    for (const UnitTable& unit : tables)
+        if (unit.table.table.compare(table, Qt::CaseInsensitive) == 0)
+            found.push_back(&unit);
+    return found;
+}
+
+CourseSource readCourse(const QString& folder) {
+    CourseSource course{folder, {}};
+    readFolder(course, folder, QString(), 0);
+    static const QRegularExpression unitName(QStringLiteral("^unit(\\d+)$"));
+    const QDir dir(folder);
+    for (const QString& name : dir.entryList(QDir::Dirs | QDir::NoDotAndDotDot, QDir::Name))
+        if (const auto match = unitName.match(name); match.hasMatch())
+            readFolder(course, dir.filePath(name), name + u'/', match.captured(1).toInt());
+    if (course.tables.empty())
+        throw SourceError({folder, 0, {}}, QStringLiteral("the folder holds no course"));
+    return course;
+}
+
+int BuiltTable::column(const QString& name) const {
+    for (qsizetype i = 0; i < fields.size(); ++i)
+        if (fields[i].compare(name, Qt::CaseInsensitive) == 0)
+            return static_cast<int>(i);
+    return -1;
+}
+
+const Value& BuiltTable::value(const BuiltRow& row, const QString& name) const {
+    return row.values[static_cast<std::size_t>(column(name))];
+}
+
+BuiltCourse::BuiltCourse(const CourseSource& source) {
+    for (const AuthoredTable& authored : authoredTables)
+        add(source, QLatin1String(authored.store), QLatin1String(authored.table));
+    fillCounts();
+    addDictionary();
+}
+
+void BuiltCourse::add(const CourseSource& source, const QString& store, const QString& table) {
+    const auto* definition = core::findTable(store.toStdString(), table.toStdString());
+    BuiltTable built{store, fromView(definition->table), {}, {}};
+    for (const core::FieldShape& field : definition->fields)
+        built.fields.append(fromView(field.name));
+    for (const auto* unit : source.named(table)) {
+        for (const TableRow& row : unit->table.rows) {
+            BuiltRow builtRow{{}, unit->table.place(row)};
+            for (const core::FieldShape& field : definition->fields)
+                builtRow.values.push_back(parseValue(unit->table, row, field, fromView(field.name)));
+            if (const int topic = built.column(QStringLiteral("topicno")); topic >= 0 && unit->topicNo > 0)
+                if (auto& value = builtRow.values[static_cast<std::size_t>(topic)]; value.isNull())
+                    value = unit->topicNo;
+            built.rows.push_back(std::move(builtRow));
+        }
+    }
+    tables_.push_back(std::move(built));
+}
+
+const BuiltTable& BuiltCourse::table(const QString& name) const {
+    return *std::find_if(tables_.begin(), tables_.end(), [&](const BuiltTable& table) {
+        return table.table.compare(name, Qt::CaseInsensitive) == 0;
+    });
+}
+
+void BuiltCourse::fillCounts() {
+    const QString record = QStringLiteral("recordno");
+    for (BuiltTable& table : tables_) {
+        if (table.table == QStringLiteral("tablework"))
+            numberRows(table, QStringLiteral("pageno"), QStringLiteral("topicno"));
+        else if (table.column(QStringLiteral("orderno")) >= 0)
+            numberRows(table, QStringLiteral("orderno"), record);
+        if (table.column(QStringLiteral("autono")) >= 0)
+            numberRows(table, QStringLiteral("autono"), QString());
+    }
+    const auto words = countByRecord(table(QStringLiteral("newword")));
+    const auto questions = countByRecord(table(QStringLiteral("tovalin1_quiz_data")));
+    BuiltTable& steps = const_cast<BuiltTable&>(table(QStringLiteral("tablework")));
+    const auto fill = [&](BuiltRow& row, const QString& field, const std::map<int, int>& counts) {
+        auto& value = row.values[static_cast<std::size_t>(steps.column(field))];
+        if (!value.isNull() || steps.value(row, record).isNull())
+            return;
+        const auto count = counts.find(steps.value(row, record).toInt16());
+        value = count == counts.end() ? Value(0) : Value(count->second);
+    };
+    for (BuiltRow& row : steps.rows) {
+        fill(row, QStringLiteral("wordno"), words);
+        fill(row, QStringLiteral("quizno"), questions);
+    }
+}
+
+void BuiltCourse::addDictionary() {
+    const BuiltTable& newWords = table(QStringLiteral("newword"));
+    for (const BuiltRow& row : newWords.rows)
+        words_.insert(newWords.value(row, QStringLiteral("word")).toText(),
+                      newWords.value(row, QStringLiteral("korean")).toText());
+    BuiltTable dictionary{QStringLiteral("dicword.mdb"), QStringLiteral("dicword"), {}, {}};
+    dictionary.fields = {QStringLiteral("word"), QStringLiteral("scode"), QStringLiteral("defsen")};
+    BuiltTable all{QStringLiteral("dicword.mdb"), QStringLiteral("allword"), {QStringLiteral("word")}, {}};
+    BuiltTable allKorean{QStringLiteral("dicword_K.mdb"), QStringLiteral("allword"), {QStringLiteral("word")}, {}};
+    for (auto word = words_.cbegin(); word != words_.cend(); ++word) {
+        dictionary.rows.push_back({{word.key(), word.key(), word.value()}, {}});
+        all.rows.push_back({{word.key()}, {}});
+        allKorean.rows.push_back({{word.value()}, {}});
+    }
+    tables_.push_back(std::move(dictionary));
+    tables_.push_back(std::move(all));
+    tables_.push_back(std::move(allKorean));
+}
+
+}  // namespace tools

@@ -1,0 +1,67 @@
+#pragma once
+
+#include "platform/value.h"
+#include "tools/table_file.h"
+
+#include <QMap>
+
+#include <map>
+#include <vector>
+
+namespace tools {
+
+/// A course as its author keeps it: the text tables of a folder, one folder a unit.
+struct CourseSource {
+    QString folder;
+    struct UnitTable {
+        int topicNo = 0;  // 0 for a table of the whole course
+        TableFile table;
+    };
+    std::vector<UnitTable> tables;
+
+    /// All tables of a name, in the order of their units.
+    std::vector<const UnitTable*> named(const QString& table) const;
+};
+
+/// Reads every table below a course folder: `topic.csv` beside folders `unit01`, `unit02` … Throws
+/// SourceError; one for a file whose name is no table of a course, too.
+CourseSource readCourse(const QString& folder);
+
+/// One row of a store's table as built, with the place in the text table that it came from.
+struct BuiltRow {
+    std::vector<platform::Value> values;  // in the order of the table's fields
+    SourcePlace place;
+};
+
+struct BuiltTable {
+    QString store;
+    QString table;
+    QStringList fields;
+    std::vector<BuiltRow> rows;
+
+    int column(const QString& name) const;
+    const platform::Value& value(const BuiltRow& row, const QString& name) const;
+};
+
+/// The tables that a course fills, as the stores will hold them: places, orders, counts and running numbers
+/// that the author left out are filled in.
+class BuiltCourse {
+   public:
+    /// Throws SourceError where a number is no number.
+    explicit BuiltCourse(const CourseSource& source);
+
+    const std::vector<BuiltTable>& tables() const { return tables_; }
+    const BuiltTable& table(const QString& name) const;
+    /// Every word of the course once, in order.
+    const QMap<QString, QString>& words() const { return words_; }
+
+   private:
+    void add(const CourseSource& source, const QString& store, const QString& table);
+    void fillCounts();
+    void addDictionary();
+
+    std::vector<BuiltTable> tables_;
+    QMap<QString, QString> words_;  // word, meaning
+};
+
+}  // namespace tools

@@ -1,0 +1,199 @@
+#include "tools/install.h"
+
+#include "platform/database.h"
+#include "tools/course_source.h"
+#include "tools/store_writer.h"
+#include "tools/wave.h"
+
+#include <QCryptographicHash>
+#include <QDir>
+#include <QDirIterator>
+#include <QFile>
+#include <QFileInfo>
+#include <QSaveFile>
+#include <QDateTime>
+
+#include <array>
+
+namespace tools {
+
+namespace {
+
+// A file of this name in the root says that the install is ours, and which course its stores were built from.
+const QString markName = QStringLiteral(".mendori-install");
+// Counts up whenever the stores' layout changes, so that an older install is rebuilt.
+constexpr int layoutVersion = 1;
+
+[[noreturn]] void refuse(const QString& sentence) {
+    throw std::runtime_error(sentence.toStdString());
+}
+
+struct Place {
+    const char* store;
+    const char* path;
+};
+
+// Content stores and where they lie below the root. The worksheets work in a copy of the course store.
+constexpr std::array contentStores{
+    Place{"tovalin.mdb", "D/tovalin.mdb"},
+    Place{"tovalin.mdb", "C/Larkfield/Larkfield2013/Tovalin1/tovalin.mdb"},
+    Place{"Tovalin_Data.mdb", "D/Tovalin_Data.mdb"},
+    Place{"testword_im.mdb", "D/testword_im.mdb"},
+    Place{"testword_2013.mdb", "D/testword_2013.mdb"},
+    Place{"dicword_K.mdb", "D/dicword_K.mdb"},
+    Place{"dicword.mdb", "C/A_Mendori/Main/dicword.mdb"},
+    Place{"Pversion_2026.mdb", "C/A_Mendori/Main/Pversion_2026.mdb"},
+};
+
+class Installer {
+   public:
+    explicit Installer(const InstallPlan& plan) : plan_(plan), root_(plan.root) {}
+
+    void run() {
+        claimRoot();
+        const BuiltCourse course(readCourse(plan_.courseFolder));
+        makeStores(course);
+        makeScores();
+        copyPictures();
+        makeEffects();
+        copyReports();
+        if (plan_.speakWords)
+            speakWords(course.words().keys(), root_.filePath(QStringLiteral("D/A_Mendori/ABCSound")), plan_.progress);
+        writeMark(courseStamp());
+    }
+
+   private:
+    void tell(const QString& what, int done, int total) const {
+        if (plan_.progress)
+            plan_.progress(what, done, total);
+    }
+
+    QString markFile() const { return root_.filePath(markName); }
+
+    void claimRoot() {
+        if (!root_.mkpath(QStringLiteral(".")))
+            refuse(QStringLiteral("The folder %1 cannot be made. Choose another with --root.").arg(plan_.root));
+        if (!root_.isEmpty(QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot) && !QFile::exists(markFile()))
+            refuse(QStringLiteral("%1 holds files that are no install of this program; nothing was changed. "
+                                  "Choose an empty folder with --root.")
+                       .arg(plan_.root));
+        if (!QFile::exists(markFile()))
+            writeMark(QStringLiteral("unfinished"));
+        for (const char* folder : {"C/A_Mendori/Main", "C/Larkfield/Larkfield2013/Tovalin1", "D/button", "D/interface",
+                                   "D/A_Mendori/ABCPicture", "D/A_Mendori/ABCSound",
+                                   "D/A_Mendori/Mendori_Program/Tovalin1_Video", "E", "F", "G", "H"})
+            if (!root_.mkpath(QLatin1String(folder)))
+                refuse(QStringLiteral("The folder %1 cannot be made.").arg(root_.filePath(QLatin1String(folder))));
+    }
+
+    void writeMark(const QString& stamp) const {
+        QSaveFile mark(markFile());
+        if (!mark.open(QIODevice::WriteOnly) || mark.write(stamp.toUtf8() + '\n') < 0 || !mark.commit())
+            refuse(QStringLiteral("%1 cannot be written.").arg(markFile()));
+    }
+
+    QString courseStamp() const {
+        QCryptographicHash hash(QCryptographicHash::Sha1);
+        hash.addData(QByteArray::number(layoutVersion));
+        QStringList files;
+        for (QDirIterator it(plan_.courseFolder, {QStringLiteral("*.csv")}, QDir::Files, QDirIterator::Subdirectories);
+             it.hasNext();)
+            files.append(it.next());
+        files.sort();
+        for (const QString& file : files) {
+            QFile opened(file);
+            if (opened.open(QIODevice::ReadOnly)) {
+                hash.addData(file.mid(plan_.courseFolder.size()).toUtf8());
+                hash.addData(&opened);
+            }
+        }
+        return QString::fromLatin1(hash.result().toHex());
+    }
+
+    bool isCurrent() const {
+        QFile mark(markFile());
+        return mark.open(QIODevice::ReadOnly) && QString::fromUtf8(mark.readAll()).trimmed() == courseStamp();
+    }
+
+    void makeStores(const BuiltCourse& course) const {
+        const bool current = isCurrent();
+        int done = 0;
+        for (const Place& place : contentStores) {
+            tell(QStringLiteral("stores"), ++done, static_cast<int>(contentStores.size()));
+            const QString file = root_.filePath(QLatin1String(place.path));
+            const bool exists = QFile::exists(file);
+            if (exists && !madeBySetup(file))
+                refuse(QStringLiteral("%1 was not made by this set-up and is left as it is. Move it away, or choose "
+                                      "another folder with --root.")
+                           .arg(file));
+            if (!exists || !current)
+                writeStore(file, QLatin1String(place.store), course.tables());
+        }
+    }
+
+    void makeScores() const {
+        if (plan_.userId.isEmpty())
+            return;
+        const QString file = root_.filePath(QStringLiteral("C/A_Mendori/Main/DbScore_%1.mdb").arg(plan_.userId));
+        if (!QFile::exists(file))
+            writeStore(file, QStringLiteral("DbScore"), {});
+    }
+
+    static void copyNewer(const QString& from, const QString& to) {
+        const QFileInfo source(from);
+        const QFileInfo target(to);
+        if (target.exists() && target.size() == source.size() && target.lastModified() >= source.lastModified())
+            return;
+        QFile::remove(to);
+        if (!QFile::copy(from, to))
+            refuse(QStringLiteral("%1 cannot be copied to %2.").arg(from, to));
+    }
+
+    void copyFolder(const QString& from, const QString& pattern, const QString& to) const {
+        const QStringList names = QDir(from).entryList({pattern}, QDir::Files);
+        for (const QString& name : names)
+            copyNewer(from + u'/' + name, root_.filePath(to + u'/' + name));
+    }
+
+    void copyPictures() const {
+        tell(QStringLiteral("pictures"), 0, 1);
+        for (const char* folder : {"interface", "button"})
+            copyFolder(plan_.pictureFolder + u'/' + QLatin1String(folder), QStringLiteral("*.jpg"),
+                       QStringLiteral("D/") + QLatin1String(folder));
+        copyNewer(plan_.pictureFolder + QStringLiteral("/button/hand.cur"), root_.filePath(QStringLiteral("D/harrow.cur")));
+        copyNewer(plan_.pictureFolder + QStringLiteral("/interface/login.jpg"),
+                  root_.filePath(QStringLiteral("D/A_Mendori/ABCPicture/Mendori.jpg")));
+        tell(QStringLiteral("pictures"), 1, 1);
+    }
+
+    void makeEffects() const {
+        for (const auto& [name, wave] : effects())
+            if (const QString file = root_.filePath(QStringLiteral("D/") + name); !QFile::exists(file))
+                if (!writeWave(file, wave))
+                    refuse(QStringLiteral("%1 cannot be written.").arg(file));
+    }
+
+    void copyReports() const {
+        if (!plan_.reportFolder.isEmpty())
+            copyFolder(plan_.reportFolder, QStringLiteral("*.rpt"), QStringLiteral("C/Larkfield/Larkfield2013/Tovalin1"));
+    }
+
+    const InstallPlan& plan_;
+    QDir root_;
+};
+
+}  // namespace
+
+bool madeBySetup(const QString& storeFile) {
+    // Bytes 68 to 71 of a store hold the mark of the program that made it.
+    QFile file(storeFile);
+    if (platform::storeFormat(storeFile) != platform::StoreFormat::Store || !file.open(QIODevice::ReadOnly))
+        return false;
+    return file.seek(68) && file.read(4) == storeMark();
+}
+
+void makeInstall(const InstallPlan& plan) {
+    Installer(plan).run();
+}
+
+}  // namespace tools

@@ -1,0 +1,34 @@
+#pragma once
+
+#include <QString>
+
+#include <functional>
+
+namespace tools {
+
+/// What an install is made of and for whom.
+struct InstallPlan {
+    QString root;            // the folder that plays the drives
+    QString courseFolder;    // text tables of the course
+    QString pictureFolder;   // rendered pictures, with `interface` and `button`
+    QString reportFolder;    // report templates; empty for none
+    QString userId;          // student number; empty makes no score store
+    bool speakWords = true;  // have each word of the course spoken into a sound file
+    /// Told what is being made, and how far: "stores", 3, 8.
+    std::function<void(const QString& what, int done, int total)> progress;
+};
+
+/// Makes a complete install, or brings one that it made before up to date. Scores of learners are never
+/// touched, and nothing that it did not make is overwritten. Throws std::runtime_error with a sentence that
+/// says what is in the way and what to do.
+void makeInstall(const InstallPlan& plan);
+
+/// True for a store that `writeStore` made, told by a mark inside it.
+bool madeBySetup(const QString& storeFile);
+
+/// Speaks each word that has no sound file yet. Gives the number of words that stay silent because no speech
+/// program is there.
+int speakWords(const QStringList& words, const QString& folder,
+               const std::function<void(const QString& what, int done, int total)>& progress);
+
+}  // namespace tools

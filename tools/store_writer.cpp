@@ -1,0 +1,85 @@
+#include "tools/store_writer.h"
+
+#include "core/schema.h"
+
+#include <QFile>
+#include <SQLiteCpp/SQLiteCpp.h>
+
+#include <cstdio>
+
+namespace tools {
+
+namespace {
+
+constexpr int markNumber = 0x4D6E6472;
+
+void bindValue(SQLite::Statement& statement, int position, const platform::Value& value) {
+    std::visit(
+        [&](const auto& content) {
+            using Content = std::decay_t<decltype(content)>;
+            if constexpr (std::is_same_v<Content, std::monostate>)
+                statement.bind(position);
+            else if constexpr (std::is_same_v<Content, QString>)
+                statement.bind(position, content.toStdString());
+            else
+                statement.bind(position, content);
+        },
+        value.content());
+}
+
+void fill(SQLite::Database& store, const BuiltTable& table) {
+    QStringList marks;
+    QStringList names;
+    for (const QString& field : table.fields) {
+        names.append(u'"' + field + u'"');
+        marks.append(QStringLiteral("?"));
+    }
+    SQLite::Statement insert(store, QStringLiteral("INSERT INTO \"%1\" (%2) VALUES (%3)")
+                                        .arg(table.table, names.join(u','), marks.join(u','))
+                                        .toStdString());
+    for (const BuiltRow& row : table.rows) {
+        for (std::size_t i = 0; i < row.values.size(); ++i)
+            bindValue(insert, static_cast<int>(i) + 1, row.values[i]);
+        insert.exec();
+        insert.reset();
+    }
+}
+
+void writeTables(const QString& file, const QString& schemaStore, const std::vector<BuiltTable>& content) {
+    SQLite::Database store(file.toStdString(), SQLite::OPEN_READWRITE | SQLite::OPEN_CREATE);
+    store.exec("PRAGMA application_id=" + std::to_string(markNumber));
+    SQLite::Transaction transaction(store);
+    for (const core::TableDefinition& definition : core::tableDefinitions())
+        if (QLatin1String(definition.store.data(), static_cast<qsizetype>(definition.store.size())) == schemaStore)
+            for (const QString& statement : core::createStatements(definition))
+                store.exec(statement.toStdString());
+    for (const BuiltTable& table : content)
+        if (table.store == schemaStore)
+            fill(store, table);
+    transaction.commit();
+}
+
+}  // namespace
+
+QByteArray storeMark() {
+    return QByteArrayLiteral("\x4D\x6E\x64\x72");
+}
+
+void writeStore(const QString& file, const QString& schemaStore, const std::vector<BuiltTable>& content) {
+    const QString half = file + QStringLiteral(".new");
+    QFile::remove(half);
+    try {
+        writeTables(half, schemaStore, content);
+    } catch (const SQLite::Exception& failure) {
+        QFile::remove(half);
+        throw std::runtime_error(QStringLiteral("%1 cannot be written: %2")
+                                     .arg(file, QString::fromUtf8(failure.what()))
+                                     .toStdString());
+    }
+    if (std::rename(half.toLocal8Bit().constData(), file.toLocal8Bit().constData()) != 0) {
+        QFile::remove(half);
+        throw std::runtime_error(QStringLiteral("%1 cannot be written.").arg(file).toStdString());
+    }
+}
+
+}  // namespace tools

@@ -1,0 +1,51 @@
+#pragma once
+
+#include <QString>
+#include <QStringList>
+
+#include <stdexcept>
+#include <vector>
+
+namespace tools {
+
+/// A place in a text table: file as it was given, line from 1, column as a field's name where one is meant.
+struct SourcePlace {
+    QString file;
+    int line = 0;
+    QString field;
+
+    /// "unit01/newword.csv:12, field 'word'".
+    QString text() const;
+};
+
+/// A text table that cannot be read, with the place where reading ended.
+class SourceError : public std::runtime_error {
+   public:
+    SourceError(const SourcePlace& place, const QString& sentence);
+};
+
+/// One row of a text table and the line it starts on.
+struct TableRow {
+    QStringList fields;
+    int line = 0;
+};
+
+/// A text table: comma-separated values in UTF-8, quoted as spreadsheets do, field names in the first line.
+struct TableFile {
+    QString file;   // as messages name it
+    QString table;  // the file's name without its ending
+    QStringList columns;
+    std::vector<TableRow> rows;
+
+    /// The index of a column by its name in any case, -1 without one.
+    int column(const QString& name) const;
+    /// The row's text in a column, empty where the table has no such column.
+    QString field(const TableRow& row, const QString& name) const;
+    SourcePlace place(const TableRow& row, const QString& field = {}) const { return {file, row.line, field}; }
+};
+
+/// Reads one text table. Throws SourceError for a missing or damaged file, text that is not UTF-8, and a row
+/// with more or fewer fields than the first line names.
+TableFile readTableFile(const QString& path, const QString& shownName);
+
+}  // namespace tools
