@@ -1,6 +1,6 @@
 #include "vocabulary/letter_row.h"
 
-#include <QEvent>
+#include <QKeyEvent>
 
 namespace vocabulary {
 
@@ -17,6 +17,10 @@ QRgb ground(const TextBox& box, bool inHand) {
     if (box.locked())
         return inHand ? givenInHand : given;
     return inHand ? platform::colour::paleCyan : platform::colour::white;
+}
+
+bool isLetterKey(const QKeyEvent& event) {
+    return !event.text().isEmpty() && event.text().at(0).isPrint();
 }
 
 void dress(TextBox& box, bool inHand) {
@@ -86,10 +90,17 @@ void LetterRow::stepBack(int index, int keyCode) {
 }
 
 bool LetterRow::eventFilter(QObject* watched, QEvent* event) {
-    const auto type = event->type();
-    if (type == QEvent::FocusIn || type == QEvent::FocusOut || type == QEvent::ReadOnlyChange) {
-        auto& box = static_cast<TextBox&>(*watched);
-        dress(box, type == QEvent::FocusIn || (type == QEvent::ReadOnlyChange && box.hasFocus()));
+    auto& box = static_cast<TextBox&>(*watched);
+    switch (event->type()) {
+        case QEvent::FocusIn: dress(box, true); break;
+        case QEvent::FocusOut: dress(box, false); break;
+        case QEvent::ReadOnlyChange: dress(box, box.hasFocus()); break;
+        // A full box would refuse the key where an arrow has taken the selection off its letter.
+        case QEvent::KeyPress:
+            if (isLetterKey(*static_cast<QKeyEvent*>(event)) && !box.hasSelectedText())
+                box.selectAll();
+            break;
+        default: break;
     }
     return QObject::eventFilter(watched, event);
 }

@@ -49,13 +49,15 @@ WordMatching::WordMatching(core::Context& context)
     picPre().show();
     buildTexts();
     buildColumns();
+    // The keyboard starts on the form: on the first control in the chain, Space would end the program.
+    setFocus();
 }
 
 void WordMatching::buildTexts() {
     addLabel(QStringLiteral("lblMemo"), QRect(44, 104, 640, 24), TextRole::Body,
              QStringLiteral("단어를 클릭하고 해당 단어의 뜻을 클릭하십시오. "));
-    addLabel(QStringLiteral("Label3"), QRect(52, 140, 280, 24), TextRole::Heading, QStringLiteral("Word "));
-    addLabel(QStringLiteral("Label4"), QRect(372, 140, 440, 24), TextRole::Heading,
+    addLabel(QStringLiteral("Label3"), QRect(58, 142, 280, 24), TextRole::Heading, QStringLiteral("Word "));
+    addLabel(QStringLiteral("Label4"), QRect(378, 142, 440, 24), TextRole::Heading,
              QStringLiteral("Definition in Korean"));
     addLabel(QStringLiteral("Label8"), QRect(course::sideLeft, 100, 104, 20), TextRole::Caption,
              QStringLiteral("Current No."));
@@ -63,7 +65,7 @@ void WordMatching::buildTexts() {
         &addLabel(QStringLiteral("lblCurrent"), QRect(course::sideLeft, 122, 104, 26), TextRole::Letter);
     lblTotal_ =
         &addLabel(QStringLiteral("lblTotal"), QRect(course::sideLeft, 160, 104, 26), TextRole::Letter);
-    lblAnswer_ = &addLabel(QStringLiteral("lblAnswer"), QRect(372, 680, 440, 22), TextRole::Body);
+    lblAnswer_ = &addLabel(QStringLiteral("lblAnswer"), QRect(378, 680, 440, 22), TextRole::Body);
     lblAnswer_->hide();
     const auto mark = [this](const char* name, const char* spoken, const QString& picture) {
         PictureButton& button =
@@ -86,10 +88,10 @@ void WordMatching::buildColumns() {
     };
     for (int i = 0; i < pairsPerPage; ++i) {
         const int top = 172 + i * 51;
-        Label& word = addLabel(lblWord_, QRect(38, top, 290, 43), TextRole::Letter);
+        Label& word = addLabel(lblWord_, QRect(44, top, 286, 43), TextRole::Letter);
         word.onClick = [this, i] { wordClicked(i); };
         dress(word, 14);
-        Label& definition = addLabel(lblDefinition_, QRect(358, top, 466, 43), TextRole::Letter);
+        Label& definition = addLabel(lblDefinition_, QRect(364, top, 460, 43), TextRole::Letter);
         definition.onClick = [this, i] { definitionClicked(i); };
         definition.onMouseMove = [this, i] { definitionHovered(i); };
         dress(definition, 14);

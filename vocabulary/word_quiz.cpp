@@ -43,6 +43,7 @@ WordQuiz::WordQuiz(core::Context& context) : ExerciseScreen(context, QStringLite
     picPre().show();
     buildTexts();
     buildQuiz();
+    picBegin().setFocus();
 }
 
 void WordQuiz::buildTexts() {
