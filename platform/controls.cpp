@@ -195,6 +195,8 @@ QRgb TextBox::backColor() const {
 
 void TextBox::setLocked(bool locked) {
     setReadOnly(locked);
+    // The line edit would ask for composed letters again.
+    setAttribute(Qt::WA_InputMethodEnabled, false);
 }
 
 void TextBox::setMark(BoxMark mark) {
