@@ -8,6 +8,9 @@
 #include "video/player_window.h"
 #include "video/step_video.h"
 #include "video/video_menu.h"
+#include "vocabulary/spelling_coach.h"
+#include "vocabulary/word_matching.h"
+#include "vocabulary/word_quiz.h"
 
 namespace app {
 
@@ -34,6 +37,9 @@ ScreenMakers allScreens() {
     makers.insert(QStringLiteral("frmVideo"), maker<video::VideoMenu>());
     makers.insert(QStringLiteral("frmVideo2"), maker<video::PlayerWindow>());
     makers.insert(QStringLiteral("frmVideo_2014"), maker<video::StepVideo>());
+    makers.insert(QStringLiteral("frmVoca2"), maker<vocabulary::SpellingCoach>());
+    makers.insert(QStringLiteral("frmVoca3"), maker<vocabulary::WordMatching>());
+    makers.insert(QStringLiteral("frmVoca4"), maker<vocabulary::WordQuiz>());
     return makers;
 }
 
