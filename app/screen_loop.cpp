@@ -18,10 +18,17 @@ void ScreenLoop::endProgram() {
     QCoreApplication::exit(0);
 }
 
+std::vector<core::Screen*> ScreenLoop::standing() const {
+    std::vector<core::Screen*> screens;
+    for (const auto& screen : standing_)
+        if (screen && !screen->isUnloaded())
+            screens.push_back(screen);
+    return screens;
+}
+
 core::Screen* ScreenLoop::top() const {
-    const auto last = std::find_if(standing_.rbegin(), standing_.rend(),
-                                   [](const auto& screen) { return screen && !screen->isUnloaded(); });
-    return last == standing_.rend() ? nullptr : last->data();
+    const auto screens = standing();
+    return screens.empty() ? nullptr : screens.back();
 }
 
 void ScreenLoop::later(std::function<void()> work) {

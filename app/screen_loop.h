@@ -32,6 +32,8 @@ class ScreenLoop final : public QObject, public core::Navigator {
     void endProgram() override;
     bool ended() const { return ended_; }
 
+    /// The screens that stand, the last opened last.
+    std::vector<core::Screen*> standing() const;
     /// The screen that was opened last and still stands, or null.
     core::Screen* top() const;
 

@@ -3,7 +3,8 @@
 #include "core/login_panel.h"
 #include "core/study_time.h"
 #include "course/course_table.h"
-#include "lessons/lessons.h"
+#include "lessons/drill_maker.h"
+#include "quizzes/quiz_maker.h"
 
 namespace app {
 
@@ -23,7 +24,10 @@ ScreenMakers allScreens() {
     makers.insert(QStringLiteral("frmTable"), maker<course::CourseTable>());
     for (const lessons::Drill& drill : lessons::drillCatalogue())
         makers.insert(QString::fromUtf8(drill.name),
-                      [&drill](core::Context& context) { return lessons::makeLesson(context, drill); });
+                      [&drill](core::Context& context) { return lessons::makeDrill(context, drill); });
+    for (const quizzes::QuizEntry& quiz : quizzes::quizEntries())
+        makers.insert(QLatin1String(quiz.form),
+                      [&quiz](core::Context& context) { return quizzes::makeQuiz(context, quiz); });
     return makers;
 }
 

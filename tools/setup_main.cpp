@@ -41,16 +41,16 @@ struct Options {
     QCommandLineOption userId{QStringLiteral("user-id"), QStringLiteral("Student number."), QStringLiteral("number")};
     QCommandLineOption name{QStringLiteral("name"), QStringLiteral("Name on scores and worksheets."), QStringLiteral("name")};
     QCommandLineOption teacher{QStringLiteral("teacher"), QStringLiteral("Log in as a teacher.")};
+    QCommandLineOption guest{QStringLiteral("guest"), QStringLiteral("Where nobody is logged in yet, log in as student 1001.")};
     QCommandLineOption silent{QStringLiteral("no-sounds"), QStringLiteral("Leave the words unspoken.")};
 };
 
-void writeIdentity(const QCommandLineParser& parser, const Options& options) {
+void writeIdentity(const QString& userId, const QCommandLineParser& parser, const Options& options) {
     platform::UserSettings settings;
     const QString section = QStringLiteral("General Information");
-    if (!parser.isSet(options.userId))
-        return;
-    settings.write(application, section, QStringLiteral("UserID"), parser.value(options.userId));
-    settings.write(application, section, QStringLiteral("Name"), parser.value(options.name));
+    settings.write(application, section, QStringLiteral("UserID"), userId);
+    settings.write(application, section, QStringLiteral("Name"),
+                   parser.isSet(options.name) ? parser.value(options.name) : userId);
     settings.write(application, section, QStringLiteral("Teacher"),
                    parser.isSet(options.teacher) ? QStringLiteral("Teacher") : QString());
 }
@@ -66,7 +66,7 @@ int main(int argc, char** argv) {
         QStringLiteral("Makes a complete install of a course. Can be run again: scores are never touched."));
     parser.addHelpOption();
     parser.addOptions({options.root, options.course, options.pictures, options.reports, options.userId, options.name,
-                       options.teacher, options.silent});
+                       options.teacher, options.guest, options.silent});
     parser.process(app);
 
     const platform::UserSettings settings;
@@ -76,7 +76,10 @@ int main(int argc, char** argv) {
     plan.courseFolder = parser.value(options.course);
     plan.pictureFolder = parser.value(options.pictures);
     plan.reportFolder = parser.value(options.reports);
-    plan.userId = parser.isSet(options.userId) ? parser.value(options.userId) : knownUser;
+    QString newUser = parser.value(options.userId);
+    if (newUser.isEmpty() && knownUser.isEmpty() && parser.isSet(options.guest))
+        newUser = QStringLiteral("1001");
+    plan.userId = newUser.isEmpty() ? knownUser : newUser;
     plan.speakWords = !parser.isSet(options.silent);
     plan.progress = showProgress;
     if (plan.userId.contains(u'\'') || plan.userId.contains(u'/') || plan.userId.contains(u'\\')) {
@@ -85,7 +88,8 @@ int main(int argc, char** argv) {
     }
     try {
         tools::makeInstall(plan);
-        writeIdentity(parser, options);
+        if (!newUser.isEmpty())
+            writeIdentity(newUser, parser, options);
     } catch (const std::exception& failure) {
         std::fprintf(stderr, "\n%s\n", failure.what());
         return 1;

@@ -1,0 +1,36 @@
+#pragma once
+
+#include "app/screen_loop.h"
+#include "core/context.h"
+#include "platform/form.h"
+
+namespace app {
+
+/// The program put together: session, desktop services and the screens, around one frame.
+class Program {
+   public:
+    Program();
+
+    /// Starts up; false when nobody is logged in and the program must end. Throws where a store cannot be
+    /// opened.
+    bool start();
+
+    core::Session& session() { return session_; }
+    ScreenLoop& screens() { return screens_; }
+    platform::Frame& frame() { return frame_; }
+    const platform::Drives& drives() const { return drives_; }
+
+   private:
+    core::Session session_;
+    platform::UserSettings settings_;
+    platform::Drives drives_;
+    platform::SystemClock clock_;
+    platform::SystemRandom random_;
+    platform::DeviceSound sound_;
+    platform::DesktopBoxes boxes_;
+    platform::Frame frame_;
+    ScreenLoop screens_;
+    core::Context context_;
+};
+
+}  // namespace app

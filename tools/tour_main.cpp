@@ -1,0 +1,93 @@
+// The guided tour: the real program, walked by real events through a learner's first steps, with a picture
+// of every screen left behind. It plays on an install of its own and touches nobody's scores.
+
+#include "platform/application.h"
+#include "platform/look.h"
+#include "tools/install.h"
+#include "tools/tour_guide.h"
+
+#include <QCommandLineParser>
+#include <QFile>
+#include <QTemporaryDir>
+
+#include <cstdio>
+
+namespace {
+
+/// A screen that every form fits on, where there is no real one.
+void useOffscreenDesktop(const QString& folder) {
+    const QString screen = folder + QStringLiteral("/screen.json");
+    QFile file(screen);
+    if (file.open(QIODevice::WriteOnly))
+        file.write(R"({"synchronousWindowSystemEvents": true, "windowFrameMargins": false, "screens": [{"name": "tour",
+                      "x": 0, "y": 0, "width": 1280, "height": 800, "logicalDpi": 96, "logicalBaseDpi": 96, "dpr": 1}]})");
+    qputenv("QT_QPA_PLATFORM", "offscreen:configfile=" + screen.toUtf8());
+    qputenv("SDL_AUDIODRIVER", "dummy");
+}
+
+/// The offscreen desktop tells of things it cannot do that nobody here asked for.
+void dropDesktopChatter(QtMsgType type, const QMessageLogContext&, const QString& text) {
+    if (type == QtFatalMsg || type == QtCriticalMsg || !text.startsWith(QStringLiteral("This plugin does not support")))
+        std::fprintf(stderr, "%s\n", qPrintable(text));
+}
+
+void walk(const QString& pictureFolder) {
+    app::Program program;
+    if (!program.start())
+        throw std::runtime_error("Nobody is logged in.");
+    tools::TourGuide guide(program, pictureFolder);
+    for (const tools::TourChapter& chapter : tools::tourChapters()) {
+        std::printf("%s\n", chapter.name);
+        chapter.walk(guide);
+    }
+    std::printf("%d pictures are in %s\n", guide.pictureCount(), qPrintable(pictureFolder));
+}
+
+}  // namespace
+
+int main(int argc, char** argv) {
+    const QTemporaryDir home;
+    qputenv("XDG_CONFIG_HOME", home.filePath(QStringLiteral("config")).toUtf8());
+    qputenv("MENDORI_ROOT", home.filePath(QStringLiteral("install")).toUtf8());
+    if (qEnvironmentVariableIsEmpty("DISPLAY") && qEnvironmentVariableIsEmpty("WAYLAND_DISPLAY"))
+        useOffscreenDesktop(home.path());
+    qputenv("XDG_RUNTIME_DIR", home.path().toUtf8());
+    qInstallMessageHandler(dropDesktopChatter);
+    platform::Application application(argc, argv);
+    application.onFailure = [](const std::exception& failure) {
+        std::fprintf(stderr, "%s\n", qPrintable(platform::failureText(failure)));
+        std::_Exit(1);
+    };
+    platform::setUpLook();
+
+    const QString beside = QCoreApplication::applicationDirPath();
+    QCommandLineParser parser;
+    parser.setApplicationDescription(QStringLiteral("Plays the guided tour and leaves pictures behind."));
+    parser.addHelpOption();
+    const QCommandLineOption pictures(QStringLiteral("pictures"), QStringLiteral("Folder for the pictures."),
+                                      QStringLiteral("folder"), QStringLiteral("tour"));
+    const QCommandLineOption source(QStringLiteral("source"), QStringLiteral("The checkout, for course and reports."),
+                                    QStringLiteral("folder"), beside + QStringLiteral("/../../.."));
+    parser.addOptions({pictures, source});
+    parser.process(application);
+
+    tools::InstallPlan plan;
+    plan.root = home.filePath(QStringLiteral("install"));
+    plan.courseFolder = QDir::cleanPath(parser.value(source) + QStringLiteral("/starter"));
+    plan.pictureFolder = QDir::cleanPath(beside + QStringLiteral("/../pictures"));
+    plan.reportFolder = QDir::cleanPath(parser.value(source) + QStringLiteral("/reports"));
+    plan.userId = QStringLiteral("1001");
+    plan.speakWords = false;
+    try {
+        tools::makeInstall(plan);
+        platform::UserSettings().write(QStringLiteral("Mendori"), QStringLiteral("General Information"),
+                                       QStringLiteral("UserID"), plan.userId);
+        platform::UserSettings().write(QStringLiteral("Mendori"), QStringLiteral("General Information"),
+                                       QStringLiteral("Name"), QStringLiteral("김하늘"));
+        walk(parser.value(pictures));
+    } catch (const std::exception& failure) {
+        std::fprintf(stderr, "%s\n", failure.what());
+        return 1;
+    }
+    return 0;
+}
