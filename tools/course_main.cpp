@@ -19,10 +19,16 @@ struct Subcommand {
     bool draws;  // needs fonts, though no window of the desktop
 };
 
+/// An import ends with the check of what it made.
+int importAndCheck(const QStringList& args) {
+    return tools::runImport(
+        args, [](const QString& root) { return tools::runCheck({QStringLiteral("--root"), root}); });
+}
+
 constexpr std::array subcommands{
     Subcommand{"build", "make the stores of an install from a course's text tables", tools::runBuild, false},
     Subcommand{"check", "hold a course against every demand of the screens", tools::runCheck, false},
-    Subcommand{"import", "bring an existing install over from its Access files", tools::runImport, false},
+    Subcommand{"import", "bring an existing install over from its Access files", importAndCheck, false},
     Subcommand{"export-scores", "give the scores of learners as a table and as a printable page",
                tools::runExportScores, true},
 };
