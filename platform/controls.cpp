@@ -227,6 +227,8 @@ QRgb TextBox::backColor() const {
 
 void TextBox::setLocked(bool locked) {
     setReadOnly(locked);
+    // The line edit would ask for composed letters again.
+    setAttribute(Qt::WA_InputMethodEnabled, false);
 }
 
 void TextBox::setMark(BoxMark mark) {
@@ -290,6 +292,14 @@ StoryBox::StoryBox(QWidget* parent) : QPlainTextEdit(parent) {
     setFrameShape(QFrame::NoFrame);
     setContextMenuPolicy(Qt::NoContextMenu);
     setTabChangesFocus(true);
+}
+
+DropList::DropList(QWidget* parent) : QComboBox(parent) {
+    setMaxVisibleItems(16);
+    connect(this, &QComboBox::activated, this, [this] {
+        if (onClick)
+            onClick();
+    });
 }
 
 CommandButton::CommandButton(const QString& caption, QWidget* parent) : QPushButton(caption, parent) {

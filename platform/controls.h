@@ -3,6 +3,7 @@
 #include "platform/look.h"
 
 #include <QAbstractButton>
+#include <QComboBox>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPlainTextEdit>
@@ -109,6 +110,16 @@ class StoryBox : public QPlainTextEdit {
     explicit StoryBox(QWidget* parent);
     void setText(const QString& text) { setPlainText(text); }
     QString text() const { return toPlainText(); }
+};
+
+/// A drop-down list. `onClick` runs when the learner picks an entry.
+class DropList : public QComboBox {
+    Q_OBJECT
+   public:
+    explicit DropList(QWidget* parent);
+    QString text() const { return currentText(); }
+
+    std::function<void()> onClick;
 };
 
 class CommandButton : public QPushButton {

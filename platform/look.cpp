@@ -1,5 +1,7 @@
 #include "platform/look.h"
 
+#include "platform/course_style.h"
+
 #include <QApplication>
 #include <QPalette>
 #include <QStringList>
@@ -45,7 +47,7 @@ void setUpLook() {
     const QStringList families{QStringLiteral("NanumGothic"), QStringLiteral("Noto Sans CJK KR")};
     QFont::insertSubstitutions(koreanFamily(), families);
     QFont::insertSubstitutions(QStringLiteral("Tahoma"), families);
-    QApplication::setStyle(QStringLiteral("Fusion"));
+    QApplication::setStyle(new CourseStyle);
     QFont font(koreanFamily());
     font.setPixelSize(14);
     QApplication::setFont(font);
