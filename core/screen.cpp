@@ -6,6 +6,15 @@
 
 namespace core {
 
+namespace {
+
+/// "next1.jpg" of "button\\next1.jpg".
+QString fileName(const QString& path) {
+    return path.section(u'\\', -1);
+}
+
+}  // namespace
+
 Screen::Screen(Context& context, const QString& name, QSize designSize)
     : Form(name, designSize, context.frame), context_(context) {
     onCloseRequest = [this] { endProgram(); };
@@ -14,13 +23,13 @@ Screen::Screen(Context& context, const QString& name, QSize designSize)
 void Screen::loadBackground(const QString& relativePath) {
     const auto picture = applicationFile(context_, relativePath);
     setBackground(platform::loadPicture(picture.file, picture.shownName, devicePixelRatioF() * scale()),
-                  picture.shownName);
+                  fileName(relativePath));
 }
 
 void Screen::loadPicture(platform::PictureButton& button, const QString& relativePath) {
     const auto picture = applicationFile(context_, relativePath);
     button.setPicture(platform::loadPicture(picture.file, picture.shownName, devicePixelRatioF() * scale()),
-                      picture.shownName);
+                      fileName(relativePath));
 }
 
 void Screen::setHandCursor(QWidget& control, const QString& file) {

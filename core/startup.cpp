@@ -4,6 +4,7 @@
 #include "platform/picture.h"
 
 #include <QGuiApplication>
+#include <QIcon>
 #include <QScreen>
 #include <QStandardPaths>
 
@@ -33,8 +34,10 @@ void findMedia(const Context& context) {
 void openDictionary(const Context& context) {
     Session& session = context.session;
     session.dictionaryDb = openStore(context, mainFolder + QStringLiteral("dicword.mdb"));
-    session.allwordRs = session.dictionaryDb.openRecordset(QStringLiteral("Select * from allword order by word"));
-    session.dicwordRs = session.dictionaryDb.openRecordset(QStringLiteral("Select * from dicword order by word"));
+    session.allwordRs =
+        session.dictionaryDb.openRecordset(QStringLiteral("Select * from allword order by word"));
+    session.dicwordRs =
+        session.dictionaryDb.openRecordset(QStringLiteral("Select * from dicword order by word"));
 }
 
 void readIdentity(const Context& context) {
@@ -82,7 +85,8 @@ int FileExists(const Context& context, const QString& path) {
 }
 
 QString applicationFolder(const platform::Settings& settings, const platform::Drives& drives) {
-    const QString stored = settings.read(application, platformSection, QStringLiteral("ApplicationFolder"), QString());
+    const QString stored =
+        settings.read(application, platformSection, QStringLiteral("ApplicationFolder"), QString());
     if (!stored.isEmpty())
         return stored;
     for (const char* drive : {"D:", "E:", "F:", "G:", "H:", "C:"}) {
@@ -109,9 +113,10 @@ QString drivesRoot(const platform::Settings& settings) {
 
 void ShowMainFrame(const Context& context, platform::Frame& frame) {
     const Session& session = context.session;
-    const auto picture = applicationFile(context, QStringLiteral("interface\\frame.jpg"));
-    if (context.drives.fileLength(picture.shownName) > 0)
-        frame.setPicture(platform::loadPicture(picture.file, picture.shownName, 1.0), QStringLiteral("frame.jpg"));
+    // The icon belongs to the frame's design and not to the course, so a course without it starts all the same.
+    const auto icon = applicationFile(context, QStringLiteral("interface\\icon.jpg"));
+    if (FileExists(context, icon.shownName) == 1)
+        frame.setWindowIcon(QIcon(platform::loadPicture(icon.file, icon.shownName, 1.0)));
     // Without a window manager a full-screen request changes nothing, so the size is set first.
     frame.setGeometry(session.frameLeft, session.frameTop, session.screenWidthPx, session.screenHeightPx);
     frame.showFullScreen();

@@ -6,7 +6,7 @@
 #include "platform/cursor.h"
 
 #include <algorithm>
-#include <set>
+#include <utility>
 
 namespace course {
 
@@ -55,10 +55,7 @@ void copyRows(Recordset source, Recordset target, int count) {
     }
 }
 
-void fillWordBook(const Context& context, const Database& course) {
-    Database wordBook = core::openWordBook(context);
-    Batch batch(wordBook);
-    Recordset book = emptied(wordBook, QStringLiteral("word_book"));
+void fillWordBook(const Context& context, Recordset book, const Database& course) {
     Recordset words = course.openRecordset(
         QStringLiteral("Select * from newword where recordno =%1").arg(context.session.recordNo));
     for (; !words.eof(); words.moveNext()) {
@@ -71,7 +68,6 @@ void fillWordBook(const Context& context, const Database& course) {
         book.set(QStringLiteral("orderno"), 0);
         book.update();
     }
-    batch.commit();
 }
 
 QString basicRowsQuery(int recordNo) {
@@ -181,14 +177,20 @@ void fetchQuestions(const Context& context, const Database& course) {
 void PrepareStepData(const Context& context, const QString& courseFile) {
     const Database master = core::openMaster(context);
     const int recordNo = context.session.recordNo;
+    const Database wordBook = core::openWordBook(context);
+    Batch words(wordBook);
+    Recordset book = emptied(wordBook, QStringLiteral("word_book"));
     const Database course = core::openStore(context, courseFile);
-    fillWordBook(context, course);
+    fillWordBook(context, std::move(book), course);
+    words.commit();
     const platform::Hourglass hourglass;
     const auto masterRows = [&](const QString& sql) { return master.openRecordset(sql); };
     Batch batch(course);
-    copyRows(masterRows(QStringLiteral("Select * from tovalin1_quiz_data WHERE recordno=%1 order by autono").arg(recordNo)),
+    copyRows(masterRows(QStringLiteral("Select * from tovalin1_quiz_data WHERE recordno=%1 order by autono")
+                            .arg(recordNo)),
              emptied(course, QStringLiteral("quiz_data_New3")), core::quizCopyFields);
-    copyRows(masterRows(QStringLiteral("Select * from tovalin1_gram_tip WHERE recordno=%1 order by autono").arg(recordNo)),
+    copyRows(masterRows(QStringLiteral("Select * from tovalin1_gram_tip WHERE recordno=%1 order by autono")
+                            .arg(recordNo)),
              emptied(course, QStringLiteral("gram_tip")), core::tipCopyFields);
     copyRows(masterRows(basicRowsQuery(recordNo)), emptied(course, QStringLiteral("basic_Data")),
              core::basicCopyFields);

@@ -4,7 +4,8 @@ namespace course {
 
 int drawNumber(const core::Context& context, int count) {
     context.random.reseed(context.clock.ticks());
-    const int drawn = static_cast<int>(context.random.next() * static_cast<float>(count) + 1.0F);
+    // In double precision, since the largest draws would round up to a number beyond the count.
+    const int drawn = static_cast<int>(static_cast<double>(context.random.next()) * count + 1.0);
     return drawn == 0 ? 1 : drawn;
 }
 

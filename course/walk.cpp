@@ -12,6 +12,7 @@
 namespace course {
 
 using core::Context;
+using core::Int16;
 using core::Session;
 using platform::Database;
 using platform::Recordset;
@@ -43,13 +44,20 @@ int lastRecordNo(const Database& course) {
     return steps.integer(QStringLiteral("recordno"));
 }
 
-/// Finds the next step and loads it. A number that no row carries leaves the session as it was.
-void findNextStep(Session& session, const Database& course) {
+/// The number of the step that follows. A step that has to exist and does not ends the run.
+Int16 followingRecordNo(const Session& session, const Database& course) {
+    if (session.isReview())
+        return session.reviewRecordNo;
     const NextRecord next = nextRecord(session.recordNo);
     Recordset preliminary = course.openRecordset(
         QStringLiteral("Select * from tablework where recordno=%1").arg(next.preliminary));
     preliminary.moveFirst();
-    session.recordNo = next.taken;
+    return next.taken;
+}
+
+/// Finds the next step and loads it. A number that no row carries leaves the session as it was.
+void findNextStep(Session& session, const Database& course) {
+    session.recordNo = followingRecordNo(session, course);
     Recordset steps = course.openRecordset(QStringLiteral("Select * from tablework"));
     steps.findFirst(QStringLiteral("recordno=%1").arg(session.recordNo));
     if (steps.noMatch())
@@ -61,7 +69,8 @@ void findNextStep(Session& session, const Database& course) {
 }  // namespace
 
 NextRecord nextRecord(int recordNo) {
-    const auto skip = std::find_if(skips.begin(), skips.end(), [&](const Skip& s) { return s.from == recordNo; });
+    const auto skip =
+        std::find_if(skips.begin(), skips.end(), [&](const Skip& s) { return s.from == recordNo; });
     if (skip != skips.end())
         return skip->next;
     return {recordNo + 1, recordNo + 1};
@@ -90,20 +99,12 @@ void loadFinalStep(Session& session, const Recordset& row) {
 void NextStep(const Context& context) {
     Session& session = context.session;
     Database course = core::openCourse(context);
-    if (session.isReview()) {
-        session.recordNo = session.reviewRecordNo;
-        Recordset steps = course.openRecordset(QStringLiteral("Select * from tablework"));
-        steps.findFirst(QStringLiteral("recordno=%1").arg(session.recordNo));
-        if (!steps.noMatch())
-            loadStep(session, steps);
-    } else {
-        if (session.recordNo + 1 > lastRecordNo(course)) {
-            course.close();
-            context.boxes.notice(QStringLiteral("Grammar의 마지막 레슨입니다."));
-            return;
-        }
-        findNextStep(session, course);
+    if (session.recordNo + 1 > lastRecordNo(course)) {
+        course.close();
+        context.boxes.notice(QStringLiteral("Grammar의 마지막 레슨입니다."));
+        return;
     }
+    findNextStep(session, course);
     std::fill(session.partDone.begin(), session.partDone.begin() + 3, QStringLiteral("YES"));
     course.close();
     if (!session.isFinal()) {
@@ -156,8 +157,9 @@ void NextFinalStep(const Context& context) {
 void CheckQuizCompleted(const Context& context) {
     Session& session = context.session;
     session.scoreDb = core::openScores(context);
-    session.scoreRs = session.scoreDb.openRecordset(QStringLiteral("Select * from score where ") +
-                                                    core::learnerCriterion(session) + QStringLiteral(" and S4 =0"));
+    session.scoreRs =
+        session.scoreDb.openRecordset(QStringLiteral("Select * from score where ") +
+                                      core::learnerCriterion(session) + QStringLiteral(" and S4 =0"));
     if (session.scoreRs.isEmpty()) {
         session.quizzesComplete = QStringLiteral("YES");
     } else {

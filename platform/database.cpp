@@ -5,10 +5,10 @@
 #include "platform/error.h"
 #include "platform/recordset.h"
 
-#include <QFile>
-#include <QFileInfo>
 #include <SQLiteCpp/SQLiteCpp.h>
 #include <sqlite3.h>
+#include <QFile>
+#include <QFileInfo>
 
 #include <utility>
 
@@ -50,8 +50,9 @@ Database Database::open(const QString& file, const QString& shownName) {
                                               "import\"; the file was left as it is.")
                                    .arg(shownName));
         case StoreFormat::Unknown:
-            throw RuntimeError(Fault::UnrecognizedFormat,
-                               QStringLiteral("'%1' is damaged: it is no store of this program.").arg(shownName));
+            throw RuntimeError(
+                Fault::UnrecognizedFormat,
+                QStringLiteral("'%1' is damaged: it is no store of this program.").arg(shownName));
         case StoreFormat::Store: break;
     }
     Database database;
@@ -67,7 +68,8 @@ Database Database::open(const QString& file, const QString& shownName) {
 
 Recordset Database::openRecordset(const QString& sql) const {
     if (!connection_)
-        throw RuntimeError(Fault::InvalidCall, QStringLiteral("The database of this query is closed: %1").arg(sql));
+        throw RuntimeError(Fault::InvalidCall,
+                           QStringLiteral("The database of this query is closed: %1").arg(sql));
     return {connection_, Query::parse(sql)};
 }
 
@@ -129,7 +131,7 @@ std::shared_ptr<SQLite::Statement> Connection::prepare(const QString& sql) {
 }
 
 int Connection::totalChanges() const {
-    return sqlite3_total_changes(sqlite_->getHandle());
+    return sqlite3_total_changes(sqlite_->getHandle()) + rollbacks_;
 }
 
 void Connection::beginBatch() {
@@ -144,12 +146,26 @@ void Connection::endBatch(bool keep) {
     batchFailed_ = batchFailed_ || !keep;
     if (--batchDepth_ > 0)
         return;
-    if (batchFailed_) {
-        // A failed statement may have rolled back by itself; a second rollback is then refused, rightly.
-        sqlite_->tryExec("ROLLBACK");
+    if (!batchFailed_) {
+        try {
+            guarded([&] { sqlite_->exec("COMMIT"); });
+        } catch (const RuntimeError&) {
+            rollBack();
+            throw;
+        }
         return;
     }
-    guarded([&] { sqlite_->exec("COMMIT"); });
+    rollBack();
+    if (keep)
+        throw RuntimeError(
+            Fault::DatabaseFailure,
+            QStringLiteral("'%1' cannot be used: a part of the run of edits was given up.").arg(shownName_));
+}
+
+void Connection::rollBack() {
+    // A failed statement may have rolled back by itself; a second rollback is then refused, rightly.
+    sqlite_->tryExec("ROLLBACK");
+    ++rollbacks_;
 }
 
 void Connection::translate(const SQLite::Exception& failure) const {
@@ -164,8 +180,9 @@ void Connection::translate(const SQLite::Exception& failure) const {
                 throw RuntimeError(Fault::ItemNotFound, QStringLiteral("'%1': %2.").arg(shownName_, reason));
             if (reason.startsWith(QStringLiteral("no such table")))
                 throw RuntimeError(Fault::TableNotFound, QStringLiteral("'%1': %2.").arg(shownName_, reason));
-            throw RuntimeError(Fault::SyntaxError,
-                               QStringLiteral("Syntax error in expression on '%1': %2.").arg(shownName_, reason));
+            throw RuntimeError(
+                Fault::SyntaxError,
+                QStringLiteral("Syntax error in expression on '%1': %2.").arg(shownName_, reason));
         default:
             throw RuntimeError(Fault::DatabaseFailure,
                                QStringLiteral("'%1' cannot be used: %2.").arg(shownName_, reason));

@@ -28,7 +28,8 @@ class Database {
     Database() = default;
 
     /// Opens an existing store. `shownName` is the path that messages name. Throws DatabaseNotFound for a
-    /// missing file and UnrecognizedFormat for one that is no store, a genuine Access file being told as such.
+    /// missing file and UnrecognizedFormat for one that is no store, a genuine Access file being told as
+    /// such.
     static Database open(const QString& file, const QString& shownName);
 
     bool isOpen() const { return connection_ != nullptr; }
@@ -52,7 +53,7 @@ class Batch {
     Batch(const Batch&) = delete;
     Batch& operator=(const Batch&) = delete;
 
-    /// Throws DatabaseFailure when the store cannot be written.
+    /// Throws DatabaseFailure when the store cannot be written, or a batch inside this one was given up.
     void commit();
 
    private:
@@ -82,12 +83,14 @@ class Connection {
     /// Runs `work` and turns what the engine throws into a RuntimeError that names the store.
     template <typename Work>
     auto guarded(Work work) -> decltype(work());
+    /// A number that changes with everything that changes the store's rows.
     int totalChanges() const;
 
     void beginBatch();
     void endBatch(bool keep);
 
    private:
+    void rollBack();
     [[noreturn]] void translate(const SQLite::Exception& failure) const;
 
     QString shownName_;
@@ -96,6 +99,7 @@ class Connection {
     QHash<QString, std::shared_ptr<const TableShape>> shapes_;
     int batchDepth_ = 0;
     bool batchFailed_ = false;
+    int rollbacks_ = 0;
 };
 
 }  // namespace platform

@@ -12,7 +12,8 @@ namespace {
 std::int16_t checked(double value) {
     if (!(value >= std::numeric_limits<std::int16_t>::min() &&
           value <= std::numeric_limits<std::int16_t>::max()))
-        throw RuntimeError(Fault::Overflow, QStringLiteral("Overflow: %1 does not fit into 16 bits.").arg(value));
+        throw RuntimeError(Fault::Overflow,
+                           QStringLiteral("Overflow: %1 does not fit into 16 bits.").arg(value));
     return static_cast<std::int16_t>(value);
 }
 
@@ -42,8 +43,9 @@ Int16 roundToInt16(double value) {
 Int16 textToInt16(const QString& text) {
     bool isNumber = false;
     const double value = text.trimmed().toDouble(&isNumber);
-    if (!isNumber)
-        throw RuntimeError(Fault::TypeMismatch, QStringLiteral("Type mismatch: \"%1\" is not a number.").arg(text));
+    if (!isNumber || !std::isfinite(value))
+        throw RuntimeError(Fault::TypeMismatch,
+                           QStringLiteral("Type mismatch: \"%1\" is not a number.").arg(text));
     return roundToInt16(value);
 }
 

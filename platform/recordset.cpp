@@ -10,6 +10,7 @@
 #include <algorithm>
 #include <limits>
 #include <unordered_map>
+#include <unordered_set>
 #include <utility>
 
 namespace platform {
@@ -82,28 +83,50 @@ void Recordset::pull(bool all) {
     if (complete_)
         return;
     connection_->guarded([&] {
-        const auto statement = connection_->prepare(keyQuery(false) + QStringLiteral(" LIMIT ? OFFSET ?"));
-        const int limit = all ? -1 : eagerMembers + 1;
-        const auto before = members_.size();
-        statement->bind(1, limit);
-        statement->bind(2, static_cast<std::int64_t>(before));
-        while (statement->executeStep()) {
-            members_.push_back({statement->getColumn(0).getInt64(), false});
-            ++liveCount_;
-        }
-        complete_ = all || members_.size() - before <= static_cast<std::size_t>(eagerMembers);
+        const auto statement = connection_->prepare(keyQuery(false) + QStringLiteral(" LIMIT ?"));
+        statement->bind(1, all ? -1 : eagerMembers + 1);
+        // Rows may have come and gone since the first ones were read, so the known ones are told by their
+        // keys.
+        std::unordered_set<std::int64_t> known;
+        for (const Member& member : members_)
+            known.insert(member.key);
+        while (statement->executeStep())
+            if (const std::int64_t key = statement->getColumn(0).getInt64(); !known.contains(key)) {
+                members_.push_back({key, false});
+                ++liveCount_;
+            }
+        complete_ = all || members_.size() <= static_cast<std::size_t>(eagerMembers);
         statement->reset();
     });
 }
 
 void Recordset::settle(std::size_t index) {
+    dropEdit();
     index_ = index;
     key_ = members_[index].key;
     place_ = Place::At;
     reached_ = std::max(reached_, index + 1);
 }
 
+void Recordset::jump(std::int64_t key) {
+    dropEdit();
+    key_ = key;
+    index_.reset();
+    place_ = Place::At;
+}
+
+void Recordset::dropEdit() {
+    mode_ = Mode::Read;
+    pending_.clear();
+}
+
+void Recordset::requireOpen() const {
+    if (!connection_)
+        throw RuntimeError(Fault::InvalidCall, QStringLiteral("A set of rows was used that is not open."));
+}
+
 void Recordset::moveFirst() {
+    requireOpen();
     for (std::size_t i = 0; i < members_.size(); ++i)
         if (!members_[i].gone)
             return settle(i);
@@ -112,6 +135,7 @@ void Recordset::moveFirst() {
 }
 
 void Recordset::moveLast() {
+    requireOpen();
     if (isEmptyNow())
         moveFirst();
     reachedAll_ = true;
@@ -119,11 +143,9 @@ void Recordset::moveLast() {
         connection_->guarded([&] {
             const auto statement = connection_->prepare(keyQuery(true) + QStringLiteral(" LIMIT 1"));
             if (statement->executeStep())
-                key_ = statement->getColumn(0).getInt64();
+                jump(statement->getColumn(0).getInt64());
             statement->reset();
         });
-        index_.reset();
-        place_ = Place::At;
         return;
     }
     std::size_t last = members_.size() - 1;
@@ -143,7 +165,10 @@ std::size_t Recordset::currentIndex() {
 }
 
 void Recordset::moveNext() {
-    if (place_ != Place::At && place_ != Place::Gone)
+    requireOpen();
+    if (place_ == Place::Before)
+        return moveFirst();
+    if (place_ == Place::After)
         throw RuntimeError(Fault::NoCurrentRecord,
                            QStringLiteral("No current record: past the last row of %1.").arg(description()));
     std::size_t next = currentIndex() + 1;
@@ -152,9 +177,9 @@ void Recordset::moveNext() {
     while (next < members_.size() && members_[next].gone)
         ++next;
     if (next < members_.size())
-        settle(next);
-    else
-        place_ = Place::After;
+        return settle(next);
+    dropEdit();
+    place_ = Place::After;
 }
 
 void Recordset::move(int rows) {
@@ -183,6 +208,7 @@ int Recordset::recordCount() const {
 }
 
 void Recordset::findFirst(const QString& criterion) {
+    requireOpen();
     const auto key = complete_ && members_.size() <= probeLimit ? probe(criterion) : search(criterion);
     noMatch_ = !key.has_value();
     if (noMatch_)
@@ -191,17 +217,16 @@ void Recordset::findFirst(const QString& criterion) {
                                     [&](const Member& member) { return member.key == *key; });
     if (known != members_.end())
         return settle(static_cast<std::size_t>(known - members_.begin()));
-    key_ = *key;
-    index_.reset();
-    place_ = Place::At;
+    jump(*key);
 }
 
 std::optional<std::int64_t> Recordset::probe(const QString& criterion) {
     return connection_->guarded([&]() -> std::optional<std::int64_t> {
         // Not kept for reuse: criteria carry what a learner typed and are hardly ever asked twice.
-        SQLite::Statement statement(connection_->sqlite(), QStringLiteral("SELECT 1 FROM \"%1\" WHERE _rowid_=?1 AND (%2)")
-                                                               .arg(query_.table, criterion)
-                                                               .toStdString());
+        SQLite::Statement statement(connection_->sqlite(),
+                                    QStringLiteral("SELECT 1 FROM \"%1\" WHERE _rowid_=?1 AND (%2)")
+                                        .arg(query_.table, criterion)
+                                        .toStdString());
         for (const Member& member : members_) {
             if (member.gone)
                 continue;
@@ -218,8 +243,8 @@ std::optional<std::int64_t> Recordset::probe(const QString& criterion) {
 std::optional<std::int64_t> Recordset::search(const QString& criterion) {
     return connection_->guarded([&]() -> std::optional<std::int64_t> {
         Query narrowed = query_;
-        narrowed.where = query_.where.isEmpty() ? criterion
-                                                : QStringLiteral("(%1) AND (%2)").arg(query_.where, criterion);
+        narrowed.where =
+            query_.where.isEmpty() ? criterion : QStringLiteral("(%1) AND (%2)").arg(query_.where, criterion);
         std::swap(narrowed, query_);
         const QString sql = keyQuery(false);
         std::swap(narrowed, query_);
@@ -252,19 +277,20 @@ void Recordset::edit() {
 }
 
 void Recordset::addNew() {
+    requireOpen();
     pending_.clear();
     mode_ = Mode::Add;
 }
 
 void Recordset::update() {
     if (mode_ == Mode::Read)
-        throw RuntimeError(Fault::InvalidCall, QStringLiteral("Update without an edit on %1.").arg(description()));
+        throw RuntimeError(Fault::InvalidCall,
+                           QStringLiteral("Update without an edit on %1.").arg(description()));
     if (mode_ == Mode::Add)
         insertRow();
     else if (!pending_.empty())
         updateRow();
-    mode_ = Mode::Read;
-    pending_.clear();
+    dropEdit();
 }
 
 void Recordset::insertRow() {
@@ -311,22 +337,27 @@ void Recordset::updateRow() {
 
 void Recordset::remove() {
     requireCurrent();
+    pull(true);
+    const std::size_t index = currentIndex();
+    dropEdit();
     connection_->guarded([&] {
         const auto statement =
             connection_->prepare(QStringLiteral("DELETE FROM \"%1\" WHERE _rowid_=?").arg(query_.table));
         statement->bind(1, key_);
         statement->exec();
     });
-    members_[currentIndex()].gone = true;
+    members_[index].gone = true;
     --liveCount_;
     place_ = Place::Gone;
 }
 
 int Recordset::fieldCount() const {
+    requireOpen();
     return static_cast<int>(shape_->columns.size());
 }
 
 QString Recordset::fieldName(int index) const {
+    requireOpen();
     return shape_->columns.value(index);
 }
 
@@ -335,6 +366,7 @@ int Recordset::findField(const QString& field) const {
 }
 
 int Recordset::fieldIndex(const QString& field) const {
+    requireOpen();
     const int index = findField(field);
     if (index < 0)
         throw RuntimeError(Fault::ItemNotFound,
@@ -371,8 +403,9 @@ void Recordset::fetch() const {
             connection_->prepare(QStringLiteral("SELECT * FROM \"%1\" WHERE _rowid_=?").arg(query_.table));
         statement->bind(1, key_);
         if (!statement->executeStep())
-            throw RuntimeError(Fault::NoCurrentRecord,
-                               QStringLiteral("No current record: a row of %1 was deleted.").arg(description()));
+            throw RuntimeError(
+                Fault::NoCurrentRecord,
+                QStringLiteral("No current record: a row of %1 was deleted.").arg(description()));
         row_.clear();
         for (int i = 0; i < statement->getColumnCount(); ++i)
             row_.push_back(readColumn(statement->getColumn(i)));
@@ -389,8 +422,9 @@ auto Recordset::explain(const QString& field, Read read) const {
         return read(content);
     } catch (const RuntimeError& error) {
         const QString row = index_ ? QStringLiteral(", row %1").arg(*index_ + 1) : QString();
-        throw RuntimeError(error.fault(), QStringLiteral("%1 (field '%2' of %3%4)")
-                                              .arg(error.sentence(), field, description(), row));
+        throw RuntimeError(
+            error.fault(),
+            QStringLiteral("%1 (field '%2' of %3%4)").arg(error.sentence(), field, description(), row));
     }
 }
 
@@ -412,8 +446,10 @@ void Recordset::set(const QString& field, const Value& value) {
 }
 
 void Recordset::set(int index, const Value& value) {
+    requireOpen();
     if (mode_ == Mode::Read)
-        throw RuntimeError(Fault::InvalidCall, QStringLiteral("A field of %1 was set without an edit.").arg(description()));
+        throw RuntimeError(Fault::InvalidCall,
+                           QStringLiteral("A field of %1 was set without an edit.").arg(description()));
     if (index < 0 || index >= fieldCount())
         throw RuntimeError(Fault::ItemNotFound,
                            QStringLiteral("There is no field %1 in %2.").arg(index).arg(description()));
@@ -430,8 +466,7 @@ QString Recordset::description() const {
 }
 
 void Recordset::requireCurrent() const {
-    if (!connection_)
-        throw RuntimeError(Fault::InvalidCall, QStringLiteral("A closed set of rows was used."));
+    requireOpen();
     if (place_ != Place::At)
         throw RuntimeError(Fault::NoCurrentRecord,
                            QStringLiteral("No current record in %1.").arg(description()));

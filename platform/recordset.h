@@ -50,6 +50,7 @@ class Recordset {
     void findFirst(const QString& criterion);
     bool noMatch() const { return noMatch_; }
 
+    /// Both last until update, or until a move, which drops what was set.
     void edit();
     void addNew();
     /// Stores what was set since edit or addNew. After addNew the place is that from before.
@@ -90,6 +91,10 @@ class Recordset {
     void pull(bool all);
     bool isEmptyNow() const { return members_.empty() || liveCount_ == 0; }
     void settle(std::size_t index);
+    /// Goes to a row whose place among the members is not known yet.
+    void jump(std::int64_t key);
+    void dropEdit();
+    void requireOpen() const;
     std::size_t currentIndex();
     QString keyQuery(bool reversed) const;
     std::optional<std::int64_t> probe(const QString& criterion);

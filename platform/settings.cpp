@@ -1,20 +1,14 @@
 #include "platform/settings.h"
 
-#include <QSettings>
-#include <QStandardPaths>
-#include <QStringList>
-
-namespace platform {
-
-namespace {
+#include "platform/error.h"
+#include "platform/ini_file.h"
 
 #ifdef Q_OS_WIN
-constexpr auto format = QSettings::NativeFormat;
-#else
-constexpr auto format = QSettings::IniFormat;
+#include <QSettings>
 #endif
+#include <QStandardPaths>
 
-}  // namespace
+namespace platform {
 
 QString settingsPlace(const QString& application) {
 #ifdef Q_OS_WIN
@@ -27,18 +21,24 @@ QString settingsPlace(const QString& application) {
 
 QString UserSettings::read(const QString& application, const QString& section, const QString& key,
                            const QString& fallback) const {
-    const QSettings store(settingsPlace(application), format);
-    const QVariant value = store.value(section + u'/' + key);
-    if (!value.isValid())
-        return fallback;
-    // An unquoted comma in an INI file reads as a list; the text the writer meant had the comma in it.
-    return value.toStringList().join(QStringLiteral(", "));
+#ifdef Q_OS_WIN
+    const QSettings store(settingsPlace(application), QSettings::NativeFormat);
+    return store.value(section + u'/' + key, fallback).toString();
+#else
+    return readIni(settingsPlace(application), section, key).value_or(fallback);
+#endif
 }
 
 void UserSettings::write(const QString& application, const QString& section, const QString& key,
                          const QString& value) {
-    QSettings store(settingsPlace(application), format);
+#ifdef Q_OS_WIN
+    QSettings store(settingsPlace(application), QSettings::NativeFormat);
     store.setValue(section + u'/' + key, value);
+#else
+    const QString file = settingsPlace(application);
+    if (!writeIni(file, section, key, value))
+        throw RuntimeError(Fault::FileNotFound, QStringLiteral("Cannot write '%1'.").arg(file));
+#endif
 }
 
 }  // namespace platform

@@ -25,6 +25,12 @@ void useOffscreenDesktop(const QString& folder) {
     qputenv("SDL_AUDIODRIVER", "dummy");
 }
 
+/// The offscreen desktop tells of things it cannot do that nobody here asked for.
+void dropDesktopChatter(QtMsgType type, const QMessageLogContext&, const QString& text) {
+    if (type == QtFatalMsg || type == QtCriticalMsg || !text.startsWith(QStringLiteral("This plugin does not support")))
+        std::fprintf(stderr, "%s\n", qPrintable(text));
+}
+
 void walk(const QString& pictureFolder) {
     app::Program program;
     if (!program.start())
@@ -45,6 +51,8 @@ int main(int argc, char** argv) {
     qputenv("MENDORI_ROOT", home.filePath(QStringLiteral("install")).toUtf8());
     if (qEnvironmentVariableIsEmpty("DISPLAY") && qEnvironmentVariableIsEmpty("WAYLAND_DISPLAY"))
         useOffscreenDesktop(home.path());
+    qputenv("XDG_RUNTIME_DIR", home.path().toUtf8());
+    qInstallMessageHandler(dropDesktopChatter);
     platform::Application application(argc, argv);
     application.onFailure = [](const std::exception& failure) {
         std::fprintf(stderr, "%s\n", qPrintable(platform::failureText(failure)));

@@ -50,7 +50,8 @@ class FakeSettings final : public platform::Settings {
     std::map<QString, QString> values;
     QString read(const QString& application, const QString& section, const QString& key,
                  const QString& fallback) const override;
-    void write(const QString& application, const QString& section, const QString& key, const QString& value) override;
+    void write(const QString& application, const QString& section, const QString& key,
+               const QString& value) override;
 };
 
 /// Keeps the names of the sounds played.

@@ -4,16 +4,33 @@
 #include "platform/look.h"
 
 #include <QFile>
+#include <QFileInfo>
+#include <QStorageInfo>
 #include <QTemporaryDir>
 
 #include <gtest/gtest.h>
 
+namespace {
+
+/// Temporary installs lie in memory where there is room: flushing their many small stores to a disk takes
+/// longer than the tests themselves.
+void keepTemporaryFilesInMemory() {
+    const QString memory = QStringLiteral("/dev/shm");
+    constexpr qint64 room = 256LL * 1024 * 1024;
+    if (QFileInfo(memory).isWritable() && QStorageInfo(memory).bytesAvailable() >= room)
+        qputenv("TMPDIR", memory.toUtf8());
+}
+
+}  // namespace
+
 int main(int argc, char** argv) {
+    keepTemporaryFilesInMemory();
     const QTemporaryDir home;
     const QString screen = home.filePath(QStringLiteral("screen.json"));
     QFile file(screen);
     if (file.open(QIODevice::WriteOnly))
-        file.write(R"({"synchronousWindowSystemEvents": true, "windowFrameMargins": false, "screens": [{"name": "test",
+        file.write(
+            R"({"synchronousWindowSystemEvents": true, "windowFrameMargins": false, "screens": [{"name": "test",
                       "x": 0, "y": 0, "width": 1280, "height": 1024, "logicalDpi": 96, "logicalBaseDpi": 96, "dpr": 1}]})");
     file.close();
     if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM"))

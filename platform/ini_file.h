@@ -1,0 +1,18 @@
+#pragma once
+
+#include <QString>
+
+#include <optional>
+
+namespace platform {
+
+/// The text under a key of a section; names in any case. Files written by hand are read as they were meant:
+/// blanks and commas belong to the text, and so does a backslash that escapes nothing. Nothing without file,
+/// section or key.
+std::optional<QString> readIni(const QString& file, const QString& section, const QString& key);
+
+/// Stores a text under a key of a section, everything else in the file staying as it is. The file appears
+/// whole or not at all. False when it cannot be written.
+bool writeIni(const QString& file, const QString& section, const QString& key, const QString& value);
+
+}  // namespace platform

@@ -1,0 +1,216 @@
+#include "platform/database.h"
+
+#include "platform/query.h"
+#include "tests/support/store.h"
+
+#include <QFile>
+
+using platform::Batch;
+using platform::Database;
+using platform::Query;
+using platform::StoreFormat;
+using support::faultOf;
+using support::TemporaryStore;
+
+namespace {
+
+const std::string twoWords =
+    "create table words(word TEXT COLLATE NOCASE); insert into words values('pear'),('fig')";
+
+class BrokenStore : public testing::Test {
+   protected:
+    QTemporaryDir folder;
+    QString file = folder.filePath(QStringLiteral("tovalin.mdb"));
+    QString sentence;
+
+    void write(const QByteArray& bytes) const {
+        QFile out(file);
+        ASSERT_TRUE(out.open(QIODevice::WriteOnly));
+        out.write(bytes);
+    }
+    QByteArray content() const {
+        QFile in(file);
+        return in.open(QIODevice::ReadOnly) ? in.readAll() : QByteArray();
+    }
+    int openFault() {
+        return faultOf([&] { Database::open(file, QStringLiteral("D:\\tovalin.mdb")); }, &sentence);
+    }
+};
+
+}  // namespace
+
+TEST_F(BrokenStore, AMissingStoreIsNamed) {
+    EXPECT_EQ(openFault(), 3024);
+    EXPECT_TRUE(sentence.contains("'D:\\tovalin.mdb'"));
+    EXPECT_FALSE(QFile::exists(file)) << "opening makes no store";
+}
+
+TEST_F(BrokenStore, AFolderUnderTheNameIsNoStore) {
+    QDir().mkpath(file);
+    EXPECT_EQ(openFault(), 3024);
+}
+
+TEST_F(BrokenStore, AnEmptyFileIsToldAsDamaged) {
+    write({});
+    EXPECT_EQ(openFault(), 3343);
+    EXPECT_TRUE(sentence.contains("'D:\\tovalin.mdb' is damaged"));
+}
+
+TEST_F(BrokenStore, AnyOtherFileIsToldAsDamagedAndStaysAsItIs) {
+    write("once upon a time there was a text file");
+    EXPECT_EQ(openFault(), 3343);
+    EXPECT_EQ(content(), "once upon a time there was a text file");
+}
+
+TEST_F(BrokenStore, AGenuineAccessFileIsRefusedWithTheImportToolAndStaysAsItIs) {
+    for (const char* engine : {"Standard Jet DB", "Standard ACE DB"}) {
+        const QByteArray bytes = QByteArray("\x00\x01\x00\x00", 4) + engine + QByteArray(200, 'x');
+        write(bytes);
+        EXPECT_EQ(platform::storeFormat(file), StoreFormat::AccessFile);
+        EXPECT_EQ(openFault(), 3343);
+        EXPECT_TRUE(sentence.contains("genuine Access file") && sentence.contains("course import"));
+        EXPECT_EQ(content(), bytes);
+    }
+}
+
+TEST_F(BrokenStore, AStoreWithAGoodHeadAndABrokenBodyIsToldAsDamaged) {
+    write("SQLite format 3" + QByteArray(1, '\0') + QByteArray(4000, 'x'));
+    const int fault = faultOf(
+        [&] {
+            const Database database = Database::open(file, QStringLiteral("D:\\tovalin.mdb"));
+            database.openRecordset(QStringLiteral("Select * from words"));
+        },
+        &sentence);
+    EXPECT_EQ(fault, 3343);
+    EXPECT_TRUE(sentence.contains("'D:\\tovalin.mdb' is damaged"));
+}
+
+TEST(Database, ATableThatTheStoreLacksIsNamed) {
+    const TemporaryStore store(twoWords);
+    QString sentence;
+    EXPECT_EQ(faultOf([&] { store.open().openRecordset("Select * from fruit"); }, &sentence), 3078);
+    EXPECT_TRUE(sentence.contains("D:\\tovalin.mdb") && sentence.contains("'fruit'"));
+}
+
+TEST(Database, AFieldThatAQueryNamesAndTheTableLacksIsAnError) {
+    const TemporaryStore store(twoWords);
+    EXPECT_EQ(faultOf([&] { store.open().openRecordset("Select * from words where colour=3"); }), 3265);
+    EXPECT_EQ(faultOf([&] { store.open().openRecordset("Select * from words order by colour"); }), 3265);
+}
+
+TEST(Database, TableNamesAreFoundInAnyCase) {
+    const TemporaryStore store(twoWords);
+    EXPECT_EQ(store.open().openRecordset("Select * from WORDS").text("word"), "pear");
+}
+
+TEST(Database, AHandleLetsItsFileGoWhenItCloses) {
+    const TemporaryStore store(twoWords);
+    Database database = store.open();
+    platform::Recordset set = database.openRecordset("Select * from words");
+    set.close();
+    database.close();
+    QFile::remove(store.file());
+    SQLite::Database made(store.file().toStdString(), SQLite::OPEN_READWRITE | SQLite::OPEN_CREATE);
+    made.exec("create table words(word TEXT); insert into words values('new')");
+    EXPECT_EQ(store.open().openRecordset("Select * from words").text("word"), "new");
+}
+
+TEST(Database, AnEditThatTheStoreRefusesIsToldWithTheReason) {
+    const TemporaryStore store(twoWords);
+    const Database holder = store.open();
+    SQLite::Database other(store.file().toStdString(), SQLite::OPEN_READWRITE);
+    other.exec("create trigger guard before update on words begin select raise(abort, 'kept as it is'); end");
+    platform::Recordset set = holder.openRecordset("Select * from words");
+    set.edit();
+    set.set("word", "plum");
+    QString sentence;
+    EXPECT_EQ(faultOf([&] { set.update(); }, &sentence), 3049);
+    EXPECT_TRUE(sentence.contains("kept as it is"));
+}
+
+namespace {
+
+void add(const Database& database, const char* word) {
+    platform::Recordset set = database.openRecordset("Select * from words");
+    set.addNew();
+    set.set("word", word);
+    set.update();
+}
+
+}  // namespace
+
+TEST(Batch, StoresAllEditsWhenItCommits) {
+    const TemporaryStore store(twoWords);
+    const Database database = store.open();
+    Batch batch(database);
+    add(database, "lime");
+    add(database, "plum");
+    EXPECT_EQ(store.rows("select count(*) from words"), QStringList{"2"}) << "onlookers see nothing yet";
+    batch.commit();
+    EXPECT_EQ(store.rows("select count(*) from words"), QStringList{"4"});
+}
+
+TEST(Batch, StoresNothingWhenAnErrorLeavesIt) {
+    const TemporaryStore store(twoWords);
+    const Database database = store.open();
+    platform::Recordset standing = database.openRecordset("Select * from words");
+    EXPECT_EQ(faultOf([&] {
+                  const Batch batch(database);
+                  platform::Recordset set = database.openRecordset("Select * from words");
+                  set.edit();
+                  set.set("word", "plum");
+                  set.update();
+                  EXPECT_EQ(standing.text("word"), "plum");
+                  set.text("colour");
+              }),
+              3265);
+    EXPECT_EQ(standing.text("word"), "pear") << "what was given up is gone for every set";
+    EXPECT_EQ(store.rows("select word from words"), (QStringList{"pear", "fig"}));
+    add(database, "lime");
+    EXPECT_EQ(store.rows("select count(*) from words"), QStringList{"3"}) << "the store takes edits again";
+}
+
+TEST(Batch, TheOutermostOneStores) {
+    const TemporaryStore store(twoWords);
+    const Database database = store.open();
+    Batch outer(database);
+    {
+        Batch inner(database);
+        add(database, "lime");
+        inner.commit();
+    }
+    EXPECT_EQ(store.rows("select count(*) from words"), QStringList{"2"});
+    outer.commit();
+    EXPECT_EQ(store.rows("select count(*) from words"), QStringList{"3"});
+}
+
+TEST(Batch, APartGivenUpIsToldWhenTheWholeIsToBeStored) {
+    const TemporaryStore store(twoWords);
+    const Database database = store.open();
+    Batch outer(database);
+    {
+        const Batch inner(database);
+        add(database, "lime");
+    }
+    EXPECT_EQ(faultOf([&] { outer.commit(); }), 3049);
+    EXPECT_EQ(store.rows("select count(*) from words"), QStringList{"2"});
+}
+
+TEST(Batch, NeedsAnOpenDatabase) {
+    EXPECT_EQ(faultOf([] { const Batch batch{Database()}; }), 5);
+}
+
+TEST(Query, TakesTheOneShapeApartInAnyCase) {
+    const Query query = Query::parse(
+        "  SELECT * From [tablework] WHERE topicno=3 and Title='order by a' ORDER BY pageno desc ");
+    EXPECT_EQ(query.table, "tablework");
+    EXPECT_EQ(query.where, "topicno=3 and Title='order by a'");
+    EXPECT_EQ(query.orderBy, "pageno desc");
+    EXPECT_EQ(Query::parse("Select * from topic").where, "");
+}
+
+TEST(Query, AnyOtherShapeIsASyntaxError) {
+    for (const char* sql :
+         {"", "Select word from words", "Delete from words", "Select * from words having a=1"})
+        EXPECT_EQ(faultOf([&] { Query::parse(sql); }), 3077) << sql;
+}

@@ -1,0 +1,80 @@
+#include "platform/message_box.h"
+
+#include "tests/support/desk.h"
+
+#include <QMessageBox>
+#include <QPushButton>
+
+#include <gtest/gtest.h>
+
+using platform::DesktopBoxes;
+
+namespace {
+
+struct Seen {
+    QString text;
+    QString title;
+    QMessageBox::Icon icon = QMessageBox::NoIcon;
+    Qt::TextFormat format = Qt::AutoText;
+    QMessageBox::StandardButtons buttons;
+    QString shownText;
+};
+
+/// Answers the next box with a real click once it stands, and tells what it looked like.
+Seen answer(QMessageBox::StandardButton button, const std::function<void()>& show) {
+    Seen seen;
+    QTimer poll;
+    QObject::connect(&poll, &QTimer::timeout, &poll, [&] {
+        auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
+        if (box == nullptr || !box->isVisible())
+            return;
+        poll.stop();
+        seen = {box->text(), box->windowTitle(), box->icon(), box->textFormat(), box->standardButtons(), {}};
+        if (const auto* label = box->findChild<QLabel*>("qt_msgbox_label"))
+            seen.shownText = label->text();
+        QTest::mouseClick(box->button(button), Qt::LeftButton);
+    });
+    poll.start(1);
+    show();
+    return seen;
+}
+
+}  // namespace
+
+TEST(DesktopBoxes, ANoticeIsARealWindowWithItsIconAndTheDefaultTitle) {
+    DesktopBoxes boxes;
+    const Seen seen = answer(QMessageBox::Ok, [&] { boxes.notice("끝났습니다.\n\nDone"); });
+    EXPECT_EQ(seen.text, "끝났습니다.\n\nDone");
+    EXPECT_EQ(seen.icon, QMessageBox::Information);
+    EXPECT_EQ(seen.title, platform::defaultBoxTitle());
+    EXPECT_EQ(seen.buttons, QMessageBox::Ok);
+}
+
+TEST(DesktopBoxes, NamesInAngleBracketsStayPlainText) {
+    DesktopBoxes boxes;
+    const Seen seen = answer(QMessageBox::Ok, [&] { boxes.plain("먼저 <Begin>을 클릭하십시오."); });
+    EXPECT_EQ(seen.format, Qt::PlainText);
+    EXPECT_EQ(seen.shownText, "먼저 <Begin>을 클릭하십시오.");
+    EXPECT_EQ(seen.icon, QMessageBox::NoIcon);
+}
+
+TEST(DesktopBoxes, AQuestionGivesTheLearnersAnswer) {
+    DesktopBoxes boxes;
+    for (const bool yes : {true, false}) {
+        bool answered = !yes;
+        const Seen seen = answer(yes ? QMessageBox::Yes : QMessageBox::No,
+                                 [&] { answered = boxes.ask("다음?", "Tovalin"); });
+        EXPECT_EQ(answered, yes);
+        EXPECT_EQ(seen.icon, QMessageBox::Question);
+        EXPECT_EQ(seen.title, "Tovalin");
+        EXPECT_EQ(seen.buttons, QMessageBox::Yes | QMessageBox::No);
+    }
+}
+
+TEST(DesktopBoxes, AStopBoxCarriesTheStopIcon) {
+    DesktopBoxes boxes;
+    const Seen seen = answer(QMessageBox::Ok, [&] {
+        boxes.show({"Log In Required.", platform::BoxIcon::Stop, {}, false});
+    });
+    EXPECT_EQ(seen.icon, QMessageBox::Critical);
+}

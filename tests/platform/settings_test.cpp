@@ -1,0 +1,116 @@
+#include "platform/settings.h"
+
+#include "platform/ini_file.h"
+#include "tests/support/desk.h"
+
+#include <QFile>
+#include <QFileInfo>
+#include <QSettings>
+
+#include <gtest/gtest.h>
+
+namespace {
+
+const QString general = QStringLiteral("General Information");
+
+/// A settings store of an application's own for each test.
+class SettingsTest : public testing::Test {
+   protected:
+    const QString application =
+        QString::fromLatin1(testing::UnitTest::GetInstance()->current_test_info()->name());
+    platform::UserSettings settings;
+
+    void byHand(const char* text) const {
+        const QString file = platform::settingsPlace(application);
+        QDir().mkpath(QFileInfo(file).path());
+        QFile out(file);
+        ASSERT_TRUE(out.open(QIODevice::WriteOnly));
+        out.write(text);
+    }
+    QString content() const {
+        QFile in(platform::settingsPlace(application));
+        return in.open(QIODevice::ReadOnly) ? QString::fromUtf8(in.readAll()) : QString();
+    }
+    QString read(const char* key, const QString& section = general) const {
+        return settings.read(application, section, QString::fromUtf8(key), QStringLiteral("-"));
+    }
+};
+
+}  // namespace
+
+TEST_F(SettingsTest, AMissingStoreSectionOrKeyGivesTheFallback) {
+    EXPECT_EQ(read("UserID"), "-");
+    byHand("[Platform]\nUserID=7\n");
+    EXPECT_EQ(read("UserID"), "-");
+    byHand("[General Information]\nName=Kim\n");
+    EXPECT_EQ(read("UserID"), "-");
+}
+
+TEST_F(SettingsTest, AStoreWrittenByHandIsReadAsItWasMeant) {
+    byHand(
+        "; the learner\r\n"
+        "[General Information]\r\n"
+        "UserID = 1001\r\n"
+        "Name=김하늘, 3반,둘째 줄\r\n"
+        "Teacher=\r\n"
+        "\r\n"
+        "[Platform]\r\n"
+        "ApplicationFolder=D:\\\r\n"
+        "Root=/home/learner/my course\r\n");
+    EXPECT_EQ(read("UserID"), "1001");
+    EXPECT_EQ(read("Name"), "김하늘, 3반,둘째 줄");
+    EXPECT_EQ(read("Teacher"), "");
+    EXPECT_EQ(read("ApplicationFolder", "Platform"), "D:\\");
+    EXPECT_EQ(read("Root", "Platform"), "/home/learner/my course");
+}
+
+TEST_F(SettingsTest, NamesAreFoundInAnyCaseAndWithEscapedBlanks) {
+    byHand("[general%20information]\nuserid=1002\n");
+    EXPECT_EQ(read("UserID"), "1002");
+}
+
+TEST_F(SettingsTest, AByteOrderMarkInFrontIsNoPartOfTheFirstSection) {
+    byHand("\xEF\xBB\xBF[General Information]\nUserID=1003\n");
+    EXPECT_EQ(read("UserID"), "1003");
+}
+
+TEST_F(SettingsTest, WhatIsWrittenIsReadBack) {
+    for (const char* text :
+         {"1001", "", "Kim, Haneul", "김 하늘", "D:\\", "C:\\new\\table", "say \"hi\"", "a;b=c", " x "}) {
+        settings.write(application, general, "Name", QString::fromUtf8(text));
+        EXPECT_EQ(read("Name"), text);
+    }
+}
+
+TEST_F(SettingsTest, AWriteLeavesEverythingElseAsItWas) {
+    byHand("; by hand\n[General Information]\nName=김하늘, 3반\n\n[Platform]\nApplicationFolder=D:\\\n");
+    settings.write(application, general, "UserID", "1001");
+    settings.write(application, general, "Name", "이바다");
+    settings.write(application, "Other", "Key", "1");
+    EXPECT_EQ(
+        content(),
+        "; by hand\n[General "
+        "Information]\nName=이바다\nUserID=1001\n\n[Platform]\nApplicationFolder=D:\\\n[Other]\nKey=1\n");
+}
+
+TEST_F(SettingsTest, AgreesWithTheToolkitsOwnReaderAndWriter) {
+    const QString file = platform::settingsPlace(application);
+    {
+        QSettings other(file, QSettings::IniFormat);
+        other.setValue("General Information/UserID", "1004");
+        other.setValue("General Information/Name", "김하늘, 3반");
+        other.setValue("Platform/ApplicationFolder", "D:\\Course");
+    }
+    EXPECT_EQ(read("UserID"), "1004");
+    EXPECT_EQ(read("Name"), "김하늘, 3반");
+    EXPECT_EQ(read("ApplicationFolder", "Platform"), "D:\\Course");
+    settings.write(application, general, "Name", "Kim, Haneul");
+    settings.write(application, "Platform", "ApplicationFolder", "E:\\");
+    const QSettings other(file, QSettings::IniFormat);
+    EXPECT_EQ(other.value("General Information/Name").toString(), "Kim, Haneul");
+    EXPECT_EQ(other.value("Platform/ApplicationFolder").toString(), "E:\\");
+}
+
+TEST(SettingsPlace, IsAFileNamedAfterTheApplicationInTheUsersConfiguration) {
+    EXPECT_EQ(platform::settingsPlace("Mendori"), qEnvironmentVariable("XDG_CONFIG_HOME") + "/Mendori.ini");
+}
