@@ -3,6 +3,8 @@
 #include "platform/application.h"
 #include "tools/build_command.h"
 #include "tools/check_command.h"
+#include "tools/offscreen.h"
+#include "tools/play_command.h"
 
 #include <array>
 #include <cstdio>
@@ -20,6 +22,7 @@ struct Subcommand {
 constexpr std::array subcommands{
     Subcommand{"build", "make the stores of an install from a course's text tables", tools::runBuild, false},
     Subcommand{"check", "hold a course against every demand of the screens", tools::runCheck, false},
+    Subcommand{"play", "play every step through the real screens and tell the scores", tools::runPlay, true},
 };
 
 int showUsage(std::FILE* stream, int status) {
@@ -33,8 +36,7 @@ int showUsage(std::FILE* stream, int status) {
 std::unique_ptr<QCoreApplication> makeApplication(const Subcommand& command, int& argc, char** argv) {
     if (!command.draws)
         return std::make_unique<QCoreApplication>(argc, argv);
-    if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM"))
-        qputenv("QT_QPA_PLATFORM", "offscreen");
+    tools::useOffscreenDesktop();
     return std::make_unique<platform::Application>(argc, argv);
 }
 
