@@ -113,16 +113,10 @@ QString drivesRoot(const platform::Settings& settings) {
 
 void ShowMainFrame(const Context& context, platform::Frame& frame) {
     const Session& session = context.session;
-    const auto load = [&](const QString& name) {
-        const auto picture = applicationFile(context, QStringLiteral("interface\\") + name);
-        return FileExists(context, picture.shownName) == 1
-                   ? platform::loadPicture(picture.file, picture.shownName, 1.0)
-                   : QPixmap();
-    };
-    // Both belong to the frame's design and not to the course, so a course without them starts all the same.
-    const QString backdrop = QStringLiteral("frame.jpg");
-    frame.setPicture(load(backdrop), backdrop);
-    frame.setWindowIcon(QIcon(load(QStringLiteral("icon.jpg"))));
+    // The icon belongs to the frame's design and not to the course, so a course without it starts all the same.
+    const auto icon = applicationFile(context, QStringLiteral("interface\\icon.jpg"));
+    if (FileExists(context, icon.shownName) == 1)
+        frame.setWindowIcon(QIcon(platform::loadPicture(icon.file, icon.shownName, 1.0)));
     // Without a window manager a full-screen request changes nothing, so the size is set first.
     frame.setGeometry(session.frameLeft, session.frameTop, session.screenWidthPx, session.screenHeightPx);
     frame.showFullScreen();

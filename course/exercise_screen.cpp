@@ -71,7 +71,7 @@ void ExerciseScreen::buildCaptions(const ChromeLayout& layout) {
         quizLabel_->hide();
     }
     if (*layout.nextCaption != '\0')
-        caption(QStringLiteral("lblNextCaption"), layout.nextTop, layout.nextCaption);
+        caption(QLatin1String(layout.nextLabelName), layout.nextTop, layout.nextCaption);
     if (*layout.preCaption != '\0')
         caption(QLatin1String(layout.preLabelName), layout.preTop, layout.preCaption);
     addLabel(QLatin1String(layout.topicName), QRect(24, 20, 640, 36), TextRole::Title, session().stepTitle);
@@ -82,6 +82,8 @@ void ExerciseScreen::tick() {
         return;
     stayEnabled_ = false;
     firstTick();
+    // A timer that stays starts its interval anew, so that a message at each tick leaves room for a click.
+    timerGo_->setEnabled(false);
     timerGo_->setEnabled(stayEnabled_ && !isUnloaded());
 }
 

@@ -25,6 +25,7 @@ struct ChromeLayout {
     // Captions beneath the buttons; empty for none.
     const char* quizLabelName = "lblAnswer";
     const char* quizCaption = "Answer";
+    const char* nextLabelName = "lblNextCaption";
     const char* nextCaption = "Next Lesson";
     const char* preLabelName = "lblPreCaption";
     const char* preCaption = "Voca Quiz";

@@ -24,7 +24,7 @@ void endWithBox(const std::exception& failure) {
         QApplication::restoreOverrideCursor();
     QMessageBox box(QMessageBox::Critical, defaultBoxTitle(), text, QMessageBox::Ok, QApplication::activeWindow());
     box.setObjectName(QStringLiteral("errorBox"));
-    box.setTextFormat(Qt::PlainText);
+    dressBox(box);
     box.exec();
     // At once, and without unwinding: what was stored is stored, and nothing of the failed handler runs on.
     std::_Exit(1);

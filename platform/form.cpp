@@ -23,19 +23,12 @@ Frame::Frame(const QString& name) : QWidget(nullptr, Qt::FramelessWindowHint) {
     setAccessibleName(QStringLiteral("Course backdrop"));
 }
 
-void Frame::setPicture(const QPixmap& picture, const QString& fileName) {
-    picture_ = picture;
-    setProperty("picture", fileName);
-    update();
-}
-
+// Painted and not loaded: a picture the size of the screen would cost more than the rest of the start.
 void Frame::paintEvent(QPaintEvent*) {
-    QPainter painter(this);
-    painter.setRenderHint(QPainter::SmoothPixmapTransform);
-    if (picture_.isNull())
-        painter.fillRect(rect(), palette().window());
-    else
-        painter.drawPixmap(rect(), picture_);
+    QLinearGradient ground(0, 0, 0, height());
+    ground.setColorAt(0.0, QColor::fromRgb(colour::backdropTop));
+    ground.setColorAt(1.0, QColor::fromRgb(colour::backdropBottom));
+    QPainter(this).fillRect(rect(), ground);
 }
 
 void Frame::closeEvent(QCloseEvent* event) {
@@ -112,6 +105,15 @@ StoryBox& Form::addStoryBox(const QString& name, const QRect& designRect) {
     box->setFont(roleFont(TextRole::Body, scale_));
     place(*box, designRect);
     return *box;
+}
+
+DropList& Form::addDropList(const QString& name, const QRect& designRect, const QString& spokenName) {
+    auto* list = new DropList(this);
+    list->setObjectName(name);
+    list->setAccessibleName(spokenName);
+    list->setFont(roleFont(TextRole::Body, scale_));
+    place(*list, designRect);
+    return *list;
 }
 
 PictureButton& Form::addPictureButton(const QString& name, const QRect& designRect, const QString& spokenName) {

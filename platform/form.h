@@ -16,18 +16,12 @@ class Frame : public QWidget {
    public:
     explicit Frame(const QString& name);
 
-    /// Fills the frame with a picture, stretched.
-    void setPicture(const QPixmap& picture, const QString& fileName);
-
     /// The window manager was asked to close the frame.
     std::function<void()> onCloseRequest;
 
    protected:
     void paintEvent(QPaintEvent* event) override;
     void closeEvent(QCloseEvent* event) override;
-
-   private:
-    QPixmap picture_;
 };
 
 /// A screen: a window of a fixed design size, centred over the frame and scaled down, everything with it,
@@ -52,6 +46,7 @@ class Form : public QWidget {
     Label& addLabel(const QString& name, const QRect& designRect, TextRole role, const QString& caption = {});
     TextBox& addTextBox(const QString& name, const QRect& designRect, TextRole role);
     StoryBox& addStoryBox(const QString& name, const QRect& designRect);
+    DropList& addDropList(const QString& name, const QRect& designRect, const QString& spokenName);
     PictureButton& addPictureButton(const QString& name, const QRect& designRect, const QString& spokenName);
     CommandButton& addButton(const QString& name, const QRect& designRect, const QString& caption);
     /// Adds the next member of an array.

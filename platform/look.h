@@ -6,7 +6,20 @@
 namespace platform {
 
 /// What a piece of text is for; its size and weight follow from that, the same on every screen.
-enum class TextRole { Title, Heading, Body, Small, Caption, Prompt, Answer, Sentence, Choice, Letter, Meaning };
+enum class TextRole {
+    Title,
+    Heading,
+    Body,
+    Small,
+    Caption,
+    Prompt,
+    Answer,
+    Sentence,
+    Choice,
+    Letter,
+    Meaning,
+    Row
+};
 
 namespace colour {
 inline constexpr QRgb black = 0xff000000;
@@ -16,6 +29,8 @@ inline constexpr QRgb paleCyan = 0xffc0ffff;
 inline constexpr QRgb lightOrange = 0xffffc080;
 inline constexpr QRgb accent = 0xff17626b;
 inline constexpr QRgb paper = 0xfffffefb;
+inline constexpr QRgb backdropTop = 0xffe3ebe9;
+inline constexpr QRgb backdropBottom = 0xffcfdcda;
 inline constexpr QRgb line = 0xffddd6c6;
 }  // namespace colour
 

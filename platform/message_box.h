@@ -2,6 +2,8 @@
 
 #include <QString>
 
+class QMessageBox;
+
 namespace platform {
 
 enum class BoxIcon { None, Information, Stop, Question };
@@ -34,6 +36,9 @@ class DesktopBoxes final : public MessageBoxes {
    public:
     bool show(const Message& message) override;
 };
+
+/// Gives a box window the course's look and shows its text as it stands.
+void dressBox(QMessageBox& box);
 
 /// The title of a message that has none of its own.
 QString defaultBoxTitle();

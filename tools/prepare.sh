@@ -1,5 +1,8 @@
 # Shared by `run` and `test`: installs missing packages and builds. Sourced with $here set to the checkout.
 
+# Lets the compiler cache work with precompiled headers.
+export CCACHE_SLOPPINESS=pch_defines,time_macros
+
 say() { printf '%s\n' "$*"; }
 
 fail() {

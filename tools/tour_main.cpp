@@ -5,6 +5,8 @@
 #include "platform/look.h"
 #include "tools/install.h"
 #include "tools/tour_guide.h"
+#include "tools/video_maker.h"
+#include "tools/video_texts.h"
 
 #include <QCommandLineParser>
 #include <QFile>
@@ -23,6 +25,21 @@ void useOffscreenDesktop(const QString& folder) {
                       "x": 0, "y": 0, "width": 1280, "height": 800, "logicalDpi": 96, "logicalBaseDpi": 96, "dpr": 1}]})");
     qputenv("QT_QPA_PLATFORM", "offscreen:configfile=" + screen.toUtf8());
     qputenv("SDL_AUDIODRIVER", "dummy");
+}
+
+/// The offscreen desktop tells of things it cannot do that nobody here asked for.
+void dropDesktopChatter(QtMsgType type, const QMessageLogContext&, const QString& text) {
+    if (type == QtFatalMsg || type == QtCriticalMsg || !text.startsWith(QStringLiteral("This plugin does not support")))
+        std::fprintf(stderr, "%s\n", qPrintable(text));
+}
+
+/// The tour plays the first video alone, so only that one is made.
+void makeFirstVideo(const tools::InstallPlan& plan) {
+    auto texts = tools::videoTexts(tools::readCourse(plan.courseFolder));
+    std::erase_if(texts, [](const tools::VideoText& text) { return text.number != 1; });
+    tools::VideoPlan video;
+    video.folder = plan.root + QStringLiteral("/D/A_Mendori/Mendori_Program/Tovalin1_Video");
+    tools::makeVideos(texts, video);
 }
 
 void walk(const QString& pictureFolder) {
@@ -45,6 +62,8 @@ int main(int argc, char** argv) {
     qputenv("MENDORI_ROOT", home.filePath(QStringLiteral("install")).toUtf8());
     if (qEnvironmentVariableIsEmpty("DISPLAY") && qEnvironmentVariableIsEmpty("WAYLAND_DISPLAY"))
         useOffscreenDesktop(home.path());
+    qputenv("XDG_RUNTIME_DIR", home.path().toUtf8());
+    qInstallMessageHandler(dropDesktopChatter);
     platform::Application application(argc, argv);
     application.onFailure = [](const std::exception& failure) {
         std::fprintf(stderr, "%s\n", qPrintable(platform::failureText(failure)));
@@ -72,6 +91,7 @@ int main(int argc, char** argv) {
     plan.speakWords = false;
     try {
         tools::makeInstall(plan);
+        makeFirstVideo(plan);
         platform::UserSettings().write(QStringLiteral("Mendori"), QStringLiteral("General Information"),
                                        QStringLiteral("UserID"), plan.userId);
         platform::UserSettings().write(QStringLiteral("Mendori"), QStringLiteral("General Information"),

@@ -1,0 +1,126 @@
+#include "tests/vocabulary/word_desk.h"
+
+#include <gtest/gtest.h>
+
+#include <QRandomGenerator>
+
+namespace {
+
+const WordDesk::Words oddWords{
+    {"leaf", "나뭇잎"},          {"hmm", "흠"},           {"eau", "물"},
+    {"Apple", "사과"},           {"o''clock", "시"},      {"ice cream", "아이스크림"},
+    {"queueing", "줄서기"},      {"bcdfghjkla", "아"},    {"responsibility", "책임"},
+    {"abcdefghijklmnopq", "긴"}, {"yy", "와이"},          {"mystery", "수수께끼"},
+    {"AEIOUea", "모음"},         {"well-known", "유명한"}};
+
+/// Clicks, keys and moves of the mouse without a plan, the same ones for the same seed.
+class Monkey {
+   public:
+    explicit Monkey(quint32 seed) : chance_(seed) {}
+
+    void act(QWidget* form) {
+        QList<QWidget*> controls;
+        for (QWidget* control : form->findChildren<QWidget*>())
+            if (control->isVisible() && !control->objectName().isEmpty() && !leaves(*control))
+                controls.append(control);
+        if (controls.isEmpty())
+            return;
+        QWidget* control = controls[chance_.bounded(static_cast<int>(controls.size()))];
+        switch (chance_.bounded(8)) {
+            case 0: support::hover(*control); break;
+            case 1: support::hover(*form); break;
+            case 2:
+            case 3:
+                QTest::mouseClick(control, Qt::LeftButton, Qt::NoModifier, control->rect().center());
+                break;
+            case 4: key(form->focusWidget() != nullptr ? form->focusWidget() : form); break;
+            default: rightLetter(form); break;
+        }
+    }
+
+   private:
+    /// Leaving the screen is not what is tried here.
+    static bool leaves(const QWidget& control) {
+        return QStringList{QStringLiteral("picExit"), QStringLiteral("picTable"), QStringLiteral("picPre"),
+                           QStringLiteral("picNext")}
+            .contains(control.objectName());
+    }
+
+    /// Types what belongs into the box in hand, so that the later stages are reached as well.
+    void rightLetter(QWidget* form) {
+        QWidget* widget = form->focusWidget();
+        if (qobject_cast<platform::TextBox*>(widget) == nullptr)
+            return;
+        const QString word = wordInHand(form);
+        const QString name = widget->objectName();
+        const int index = name.mid(name.indexOf(u'(') + 1).chopped(1).toInt();
+        if (name.startsWith(QStringLiteral("txtType")) && index < word.size())
+            QTest::keyClick(widget, word[index].toLatin1());
+        else if (chance_.bounded(8) == 0)
+            support::type(*widget, word + u'\r');
+    }
+
+    static QString wordInHand(const QWidget* form) {
+        const auto* meaning = form->findChild<platform::Label*>(QStringLiteral("lblDef2"));
+        if (meaning == nullptr)
+            meaning = form->findChild<platform::Label*>(QStringLiteral("lblWord"));
+        for (const auto& [word, korean] : oddWords)
+            if (meaning != nullptr && meaning->caption() == QString::fromStdString(korean))
+                return QString::fromStdString(word).replace(QStringLiteral("''"), QStringLiteral("'"));
+        return {};
+    }
+
+    void key(QWidget* widget) {
+        static const QList<Qt::Key> keys{Qt::Key_Backspace, Qt::Key_Left, Qt::Key_Right, Qt::Key_Return,
+                                         Qt::Key_Tab,       Qt::Key_Home, Qt::Key_Down,  Qt::Key_Delete};
+        if (leaves(*widget))
+            QTest::keyClick(widget, Qt::Key_Tab);
+        else if (chance_.bounded(3) == 0)
+            QTest::keyClick(widget, keys[chance_.bounded(static_cast<int>(keys.size()))]);
+        else
+            QTest::keyClick(widget, "aeiouyhmlfstAr' -x"[chance_.bounded(18)]);
+    }
+
+    QRandomGenerator chance_;
+};
+
+void runMonkey(const char* screen, const WordDesk::Words& words, quint32 seed, int events) {
+    WordDesk desk(words);
+    Monkey monkey(seed);
+    desk.open(QLatin1String(screen));
+    for (int i = 0; i < events && desk.failure().isEmpty(); ++i) {
+        if (desk.top() == nullptr || desk.top()->objectName() != QLatin1String(screen))
+            desk.open(QLatin1String(screen));
+        monkey.act(desk.top());
+        if (i % 16 == 0)
+            support::settle();
+    }
+    EXPECT_EQ(desk.failure(), QString()) << screen << " seed " << seed;
+}
+
+}  // namespace
+
+TEST(RandomEvents, LeaveTheSpellingCoachStanding) {
+    for (const quint32 seed : {1U, 2U, 3U, 4U})
+        runMonkey("frmVoca2", oddWords, seed, 1500);
+}
+
+TEST(RandomEvents, LeaveWordMatchingStanding) {
+    for (const quint32 seed : {11U, 12U, 13U, 14U})
+        runMonkey("frmVoca3", oddWords, seed, 800);
+}
+
+TEST(RandomEvents, LeaveTheVocabularyQuizStanding) {
+    for (const quint32 seed : {21U, 22U, 23U, 24U})
+        runMonkey("frmVoca4", oddWords, seed, 800);
+}
+
+TEST(RandomEvents, BeforeTheFirstTickLeaveTheSpellingCoachStanding) {
+    WordDesk desk(oddWords);
+    desk.screens().open(QStringLiteral("frmVoca2"));
+    ASSERT_TRUE(support::waitFor([&] { return desk.top() != nullptr; }));
+    Monkey monkey(31);
+    for (int i = 0; i < 300; ++i)
+        monkey.act(desk.top());
+    EXPECT_EQ(desk.failure(), QString());
+}

@@ -1,0 +1,11 @@
+#pragma once
+
+#include "tools/import_reader.h"
+
+namespace tools {
+
+/// Readers that run each piece of work in a process of its own. A damaged file can then bring down or hang
+/// nothing but that process, and the import says so and goes on. `patience` is how long a row may take.
+ReaderMaker isolatedMaker(ReaderMaker maker, int patienceMs = 30000);
+
+}  // namespace tools

@@ -1,0 +1,88 @@
+#include "tools/import_media.h"
+
+#include "platform/drives.h"
+
+#include <QCryptographicHash>
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+
+#include <fcntl.h>
+#include <unistd.h>
+
+#include <cstdio>
+
+namespace tools {
+
+namespace {
+
+QByteArray sumOf(const QString& file) {
+    QFile opened(file);
+    QCryptographicHash hash(QCryptographicHash::Sha256);
+    return opened.open(QIODevice::ReadOnly) && hash.addData(&opened) ? hash.result() : QByteArray();
+}
+
+bool sameContent(const QString& one, const QString& other) {
+    if (QFileInfo(one).size() != QFileInfo(other).size())
+        return false;
+    const QByteArray sum = sumOf(one);
+    return !sum.isEmpty() && sum == sumOf(other);
+}
+
+void flushToDisk(const QString& path) {
+    const int handle = open(QFile::encodeName(path).constData(), O_RDONLY | O_CLOEXEC);
+    if (handle < 0)
+        return;
+    fsync(handle);
+    close(handle);
+}
+
+}  // namespace
+
+QString moveIntoPlace(const QString& finished, const QString& place) {
+    flushToDisk(finished);
+    if (std::rename(QFile::encodeName(finished).constData(), QFile::encodeName(place).constData()) != 0) {
+        QFile::remove(finished);
+        return QStringLiteral("%1 cannot be written").arg(place);
+    }
+    flushToDisk(QFileInfo(place).path());
+    return {};
+}
+
+QString copyWhole(const QString& from, const QString& to) {
+    const QString folder = QFileInfo(to).path();
+    if (!QDir().mkpath(folder))
+        return QStringLiteral("the folder %1 cannot be made").arg(folder);
+    const QString half = to + QStringLiteral(".new");
+    QFile::remove(half);
+    if (!QFile::copy(from, half)) {
+        QFile::remove(half);
+        return QStringLiteral("it cannot be copied to %1").arg(to);
+    }
+    QFile::setPermissions(half, QFile::permissions(half) | QFile::WriteOwner);
+    if (!sameContent(from, half)) {
+        QFile::remove(half);
+        return QStringLiteral("the copy in %1 differs").arg(to);
+    }
+    return moveIntoPlace(half, to);
+}
+
+MediaReport copyMedia(const std::vector<FoundMedia>& media, const platform::Drives& drives, bool dryRun,
+                      const std::function<void(qint64 done, qint64 total)>& progress) {
+    MediaReport report;
+    qint64 done = 0;
+    for (const FoundMedia& item : media) {
+        const QString target = drives.resolve(item.target);
+        const bool present = QFileInfo(target).isFile() && sameContent(item.file, target);
+        const QString failure = present || dryRun ? QString() : copyWhole(item.file, target);
+        if (!failure.isEmpty())
+            report.problems.append(QStringLiteral("%1: %2.").arg(item.shownName, failure));
+        else
+            ++(present ? report.present : report.copied);
+        report.bytes += QFileInfo(item.file).size();
+        progress(++done, static_cast<qint64>(media.size()));
+    }
+    return report;
+}
+
+}  // namespace tools

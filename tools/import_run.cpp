@@ -1,0 +1,244 @@
+#include "tools/import_run.h"
+
+#include "platform/database.h"
+#include "tools/import_header.h"
+#include "tools/import_media.h"
+#include "tools/import_report.h"
+#include "tools/import_scores.h"
+
+#include <SQLiteCpp/Backup.h>
+
+#include <QDir>
+#include <QElapsedTimer>
+#include <QFile>
+#include <QFileInfo>
+
+namespace tools {
+
+namespace {
+
+const QString memoryStore = QStringLiteral(":memory:");
+constexpr qsizetype headerBytes = 4096;
+constexpr int busyTimeout = 15000;
+
+QString formatOf(const QString& file) {
+    QFile opened(file);
+    const auto header =
+        opened.open(QIODevice::ReadOnly) ? parseAccessHeader(opened.read(headerBytes)) : std::nullopt;
+    return header ? QLatin1String(header->formatName()) : QStringLiteral("unknown format");
+}
+
+}  // namespace
+
+Importer::Importer(ImportOptions options, ReaderMaker maker, QTextStream& out,
+                   std::function<void(const QString& line)> progress)
+    : options_(std::move(options)),
+      maker_(std::move(maker)),
+      out_(out),
+      progress_(std::move(progress)),
+      drives_(options_.root) {}
+
+bool Importer::run() {
+    const FoundInstall install = findInstall(options_.from);
+    if (install.stores.empty()) {
+        tell(QStringLiteral(
+                 "%1 holds no store of the course: no tovalin.mdb, Tovalin_Data.mdb, DbScore_….mdb or other. "
+                 "Give the folder that holds the drives, one drive, or the program's folder; an image of a "
+                 "drive has to be mounted first.")
+                 .arg(options_.from));
+        printEnd(install);
+        return false;
+    }
+    notes_ = install.notes;
+    for (const FoundStore& store : install.stores) {
+        try {
+            importStore(store);
+        } catch (const ReadError& error) {
+            tell(QStringLiteral("%1: %2.").arg(store.shownName, error.sentence()));
+        } catch (const SQLite::Exception& error) {
+            tell(QStringLiteral("%1: the store cannot be written: %2.")
+                     .arg(store.shownName, QString::fromUtf8(error.what())));
+        }
+    }
+    importMedia(install);
+    printEnd(install);
+    return problems_.isEmpty();
+}
+
+bool Importer::mayReplace(const FoundStore& store) {
+    switch (platform::storeFormat(store.file)) {
+        case platform::StoreFormat::AccessFile: break;
+        case platform::StoreFormat::Store:
+            tell(QStringLiteral("%1: it is a store of this program already, not an Access file.")
+                     .arg(store.shownName));
+            return false;
+        case platform::StoreFormat::Missing:
+        case platform::StoreFormat::Unknown:
+            tell(QStringLiteral("%1: it is not an Access file, or its first page is damaged.")
+                     .arg(store.shownName));
+            return false;
+    }
+    for (const QString& path : store.targets)
+        if (isAccessFile(drives_.resolve(path))) {
+            tell(QStringLiteral(
+                     "%1: %2 is a genuine Access file and was left as it is; import into another folder.")
+                     .arg(store.shownName, drives_.resolve(path)));
+            return false;
+        }
+    return true;
+}
+
+void Importer::importStore(const FoundStore& store) {
+    const QString target = drives_.resolve(store.targets.first());
+    printHead(store, store.targets.join(QStringLiteral(", ")));
+    if (!mayReplace(store))
+        return;
+    if (store.schemaStore == QStringLiteral("DbScore") && QFileInfo::exists(target))
+        merge(store, target);
+    else
+        writeNew(store, target);
+}
+
+CopyReport Importer::copyInto(SQLite::Database& store, const FoundStore& source) {
+    const auto reader = maker_(source.file, options_.codePage);
+    QElapsedTimer time;
+    time.start();
+    const auto progress = [&](const QString& table, qint64 rows) {
+        progress_(QStringLiteral("%1: %2, %3 rows").arg(source.shownName, table).arg(rows));
+    };
+    CopyReport report = copyStore(*reader, {source.file, source.shownName, source.schemaStore}, store,
+                                  options_.salvage, progress);
+    problems_ += report.problems;
+    notes_ += report.notes;
+    printProof(report);
+    out_ << QStringLiteral("  read and proven in %1 s\n")
+                .arg(static_cast<double>(time.elapsed()) / 1000.0, 0, 'f', 2);
+    return report;
+}
+
+void Importer::writeNew(const FoundStore& store, const QString& target) {
+    if (options_.dryRun) {
+        SQLite::Database memory(memoryStore.toStdString(), SQLite::OPEN_READWRITE | SQLite::OPEN_CREATE);
+        copyInto(memory, store);
+        return;
+    }
+    if (!QDir().mkpath(QFileInfo(target).path()))
+        throw ReadError(QStringLiteral("the folder of %1 cannot be made").arg(target));
+    const QString half = target + QStringLiteral(".new");
+    QFile::remove(half);
+    CopyReport report;
+    try {
+        SQLite::Database written(half.toStdString(), SQLite::OPEN_READWRITE | SQLite::OPEN_CREATE);
+        // Nobody sees the file before it is whole, and moving it to its place flushes it to the disk.
+        written.exec("PRAGMA journal_mode=MEMORY; PRAGMA synchronous=OFF");
+        report = copyInto(written, store);
+    } catch (...) {
+        QFile::remove(half);
+        throw;
+    }
+    if ((!report.sound && !options_.salvage) || !verify(half, store, report)) {
+        QFile::remove(half);
+        tell(QStringLiteral(
+                 "%1: nothing was written, since a table of it did not come over whole; --salvage keeps what "
+                 "could be read.")
+                 .arg(store.shownName));
+        return;
+    }
+    place(store, half);
+}
+
+/// Reads the finished file once more, as the course will find it.
+bool Importer::verify(const QString& file, const FoundStore& store, const CopyReport& report) {
+    SQLite::Database written(file.toStdString(), SQLite::OPEN_READONLY);
+    SQLite::Statement check(written, "PRAGMA quick_check");
+    bool whole = check.executeStep() && std::string(check.getColumn(0).getText()) == "ok";
+    for (const TableProof& proof : report.tables) {
+        if (proof.leftOut)
+            continue;
+        const TableSum sum = sumOfTable(written, proof.table);
+        whole = whole && sum.rows() == proof.copyRows && sum.text() == proof.copySum;
+    }
+    if (!whole)
+        tell(QStringLiteral("%1: the store as written differs from what was read.").arg(store.shownName));
+    return whole;
+}
+
+void Importer::place(const FoundStore& store, const QString& finished) {
+    for (const QString& path : store.targets.mid(1))
+        if (const QString failure = copyWhole(finished, drives_.resolve(path)); !failure.isEmpty())
+            tell(QStringLiteral("%1: %2.").arg(store.shownName, failure));
+    const QString first = drives_.resolve(store.targets.first());
+    if (const QString failure = moveIntoPlace(finished, first); !failure.isEmpty())
+        tell(QStringLiteral("%1: %2.").arg(store.shownName, failure));
+}
+
+void Importer::merge(const FoundStore& store, const QString& target) {
+    SQLite::Database copy(memoryStore.toStdString(), SQLite::OPEN_READWRITE | SQLite::OPEN_CREATE);
+    const CopyReport report = copyInto(copy, store);
+    if (!report.sound && !options_.salvage) {
+        tell(QStringLiteral("%1: no score was brought over, since the table did not come over whole; "
+                            "--salvage brings what "
+                            "could be read.")
+                 .arg(store.shownName));
+        return;
+    }
+    if (platform::storeFormat(target) != platform::StoreFormat::Store)
+        throw ReadError(QStringLiteral("%1 is no store of this program and was left as it is").arg(target));
+    SQLite::Database inUse(target.toStdString(), SQLite::OPEN_READWRITE, busyTimeout);
+    SQLite::Database trial(memoryStore.toStdString(), SQLite::OPEN_READWRITE | SQLite::OPEN_CREATE);
+    if (options_.dryRun)
+        SQLite::Backup(trial, inUse).executeStep();
+    const ScoreMerge merged = mergeScores(copy, options_.dryRun ? trial : inUse);
+    out_ << QStringLiteral("  joined with the scores in use: %1 new, %2 renewed, %3 kept, %4 alike\n")
+                .arg(merged.added)
+                .arg(merged.renewed)
+                .arg(merged.kept)
+                .arg(merged.alike);
+    for (const QString& detail : merged.details)
+        out_ << "  " << detail << '\n';
+}
+
+void Importer::importMedia(const FoundInstall& install) {
+    if (install.media.empty())
+        return;
+    const MediaReport report =
+        copyMedia(install.media, drives_, options_.dryRun, [this](qint64 done, qint64 total) {
+            progress_(QStringLiteral("pictures, sounds and videos: %1 of %2").arg(done).arg(total));
+        });
+    problems_ += report.problems;
+    out_ << QStringLiteral("\nPictures, sounds and videos: %1 copied, %2 there already, %3 bytes in all.\n")
+                .arg(report.copied)
+                .arg(report.present)
+                .arg(report.bytes);
+}
+
+void Importer::printHead(const FoundStore& store, const QString& targets) {
+    out_ << QStringLiteral("\n%1 (%2, %3 bytes) to %4\n")
+                .arg(store.shownName, formatOf(store.file))
+                .arg(QFileInfo(store.file).size())
+                .arg(targets);
+}
+
+void Importer::printProof(const CopyReport& report) {
+    out_ << proofTable(report.tables);
+}
+
+void Importer::printEnd(const FoundInstall& install) {
+    progress_({});
+    if (!install.reports.isEmpty())
+        notes_.append(QStringLiteral("%1 report templates were left out, worksheets have their own here: %2.")
+                          .arg(install.reports.size())
+                          .arg(install.reports.mid(0, 3).join(QStringLiteral(", "))));
+    if (!install.stores.empty() && !install.missing.isEmpty())
+        notes_.append(QStringLiteral("Not found, and the course does not run without: %1.")
+                          .arg(install.missing.join(QStringLiteral(", "))));
+    if (!notes_.isEmpty())
+        out_ << QStringLiteral("\nNotes\n  ") << notes_.join(QStringLiteral("\n  ")) << '\n';
+    if (!problems_.isEmpty())
+        out_ << QStringLiteral("\nProblems\n  ") << problems_.join(QStringLiteral("\n  ")) << '\n';
+    if (options_.dryRun)
+        out_ << QStringLiteral("\nNothing was written.\n");
+    out_.flush();
+}
+
+}  // namespace tools

@@ -1,0 +1,11 @@
+#pragma once
+
+#include <QWidget>
+
+namespace vocabulary {
+
+/// Hides a control at once and leaves a picture of it that fades where it stood. The picture takes no part in
+/// anything; where animations are turned off there is none.
+void fadeAway(QWidget& control);
+
+}  // namespace vocabulary

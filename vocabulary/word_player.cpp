@@ -1,0 +1,25 @@
+#include "vocabulary/word_player.h"
+
+#include <QLoggingCategory>
+
+namespace vocabulary {
+
+namespace {
+
+// Off by default, as the log of sounds is; switched on it tells the files that players were given.
+Q_LOGGING_CATEGORY(mediaLog, "tovalin.media", QtCriticalMsg)
+
+}  // namespace
+
+WordPlayer::WordPlayer(const core::Context& context, const QString& name, QObject* parent)
+    : QObject(parent), context_(context) {
+    setObjectName(name);
+}
+
+void WordPlayer::setUrl(const QString& url) {
+    url_ = url;
+    qCInfo(mediaLog).noquote() << objectName() << url;
+    context_.sound.play(context_.drives.resolve(url), false);
+}
+
+}  // namespace vocabulary
