@@ -4,6 +4,8 @@
 #include "tools/check.h"
 #include "tools/course_source.h"
 #include "tools/store_writer.h"
+#include "tools/video_maker.h"
+#include "tools/video_texts.h"
 #include "tools/wave.h"
 
 #include <QCryptographicHash>
@@ -51,7 +53,8 @@ class Installer {
     explicit Installer(const InstallPlan& plan) : plan_(plan), root_(plan.root) {}
 
     void run() {
-        const BuiltCourse course(readCourse(plan_.courseFolder));
+        const CourseSource source = readCourse(plan_.courseFolder);
+        const BuiltCourse course(source);
         checkCourse(course);
         claimRoot();
         makeStores(course);
@@ -63,10 +66,13 @@ class Installer {
             speakWords(course.words().keys(), root_.filePath(QStringLiteral("D/A_Mendori/ABCSound")),
                        plan_.progress);
         writeMark(courseStamp());
+        if (plan_.makeVideos)
+            filmTips(source);
     }
 
     BuiltStores runStores() {
-        const BuiltCourse course(readCourse(plan_.courseFolder));
+        const CourseSource source = readCourse(plan_.courseFolder);
+        const BuiltCourse course(source);
         BuiltStores built;
         built.warnings = checkCourse(course);
         claimRoot();
@@ -215,6 +221,18 @@ class Installer {
         if (!plan_.reportFolder.isEmpty())
             copyFolder(plan_.reportFolder, QStringLiteral("*.rpt"),
                        QStringLiteral("C/Larkfield/Larkfield2013/Tovalin1"));
+    }
+
+    void filmTips(const CourseSource& source) const {
+        VideoPlan videos;
+        videos.folder = root_.filePath(QStringLiteral("D/A_Mendori/Mendori_Program/Tovalin1_Video"));
+        videos.progress = [this](const QString&, int done, int total) { tell(QStringLiteral("videos"), done, total); };
+        std::vector<VideoText> texts = videoTexts(source);
+        if (plan_.onlyVideo != 0)
+            std::erase_if(texts, [&](const VideoText& text) { return text.number != plan_.onlyVideo; });
+        const VideoReport report = makeVideos(texts, videos);
+        if (!report.failures.isEmpty())
+            refuse(report.failures.join(u'\n'));
     }
 
     const InstallPlan& plan_;

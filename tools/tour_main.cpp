@@ -78,6 +78,7 @@ int main(int argc, char** argv) {
     plan.reportFolder = QDir::cleanPath(parser.value(source) + QStringLiteral("/reports"));
     plan.userId = QStringLiteral("1001");
     plan.speakWords = false;
+    plan.onlyVideo = 1;
     try {
         tools::makeInstall(plan);
         platform::UserSettings().write(QStringLiteral("Mendori"), QStringLiteral("General Information"),
