@@ -3,6 +3,11 @@
 #include "core/login_panel.h"
 #include "core/study_time.h"
 #include "course/course_table.h"
+#include "lessons/drill_maker.h"
+#include "quizzes/quiz_maker.h"
+#include "video/player_window.h"
+#include "video/step_video.h"
+#include "video/video_menu.h"
 #include "vocabulary/spelling_coach.h"
 #include "vocabulary/word_matching.h"
 #include "vocabulary/word_quiz.h"
@@ -23,6 +28,15 @@ ScreenMakers allScreens() {
     makers.insert(QStringLiteral("frmLogIn2"), maker<core::LoginPanel>());
     makers.insert(QStringLiteral("frmTime"), maker<core::StudyTime>());
     makers.insert(QStringLiteral("frmTable"), maker<course::CourseTable>());
+    for (const quizzes::QuizEntry& quiz : quizzes::quizEntries())
+        makers.insert(QLatin1String(quiz.form),
+                      [&quiz](core::Context& context) { return quizzes::makeQuiz(context, quiz); });
+    for (const lessons::Drill& drill : lessons::drillCatalogue())
+        makers.insert(QString::fromUtf8(drill.name),
+                      [&drill](core::Context& context) { return lessons::makeDrill(context, drill); });
+    makers.insert(QStringLiteral("frmVideo"), maker<video::VideoMenu>());
+    makers.insert(QStringLiteral("frmVideo2"), maker<video::PlayerWindow>());
+    makers.insert(QStringLiteral("frmVideo_2014"), maker<video::StepVideo>());
     makers.insert(QStringLiteral("frmVoca2"), maker<vocabulary::SpellingCoach>());
     makers.insert(QStringLiteral("frmVoca3"), maker<vocabulary::WordMatching>());
     makers.insert(QStringLiteral("frmVoca4"), maker<vocabulary::WordQuiz>());

@@ -21,11 +21,16 @@ struct KeyPair {
 };
 
 constexpr std::array keyPairs{
-    KeyPair{Qt::Key_Backspace, key::backspace}, KeyPair{Qt::Key_Return, key::enter},
-    KeyPair{Qt::Key_Enter, key::enter},         KeyPair{Qt::Key_PageUp, key::pageUp},
-    KeyPair{Qt::Key_PageDown, key::pageDown},   KeyPair{Qt::Key_End, key::end},
-    KeyPair{Qt::Key_Home, key::home},           KeyPair{Qt::Key_Left, key::left},
-    KeyPair{Qt::Key_Up, key::up},               KeyPair{Qt::Key_Right, key::right},
+    KeyPair{Qt::Key_Backspace, key::backspace},
+    KeyPair{Qt::Key_Return, key::enter},
+    KeyPair{Qt::Key_Enter, key::enter},
+    KeyPair{Qt::Key_PageUp, key::pageUp},
+    KeyPair{Qt::Key_PageDown, key::pageDown},
+    KeyPair{Qt::Key_End, key::end},
+    KeyPair{Qt::Key_Home, key::home},
+    KeyPair{Qt::Key_Left, key::left},
+    KeyPair{Qt::Key_Up, key::up},
+    KeyPair{Qt::Key_Right, key::right},
     KeyPair{Qt::Key_Down, key::down},
 };
 
@@ -40,6 +45,14 @@ void paintFocusMark(QWidget& widget) {
     painter.setRenderHint(QPainter::Antialiasing);
     painter.setPen(QPen(QColor::fromRgb(colour::accent), 2));
     painter.drawRoundedRect(QRectF(widget.rect()).adjusted(1.5, 1.5, -1.5, -1.5), 5, 5);
+}
+
+void paintPanel(QWidget& widget, QRgb fill, QRgb border) {
+    QPainter painter(&widget);
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setBrush(QColor::fromRgb(fill));
+    painter.setPen(QPen(QColor::fromRgb(border), 1));
+    painter.drawRoundedRect(QRectF(widget.rect()).adjusted(0.5, 0.5, -0.5, -0.5), 5, 5);
 }
 
 /// The sign of a mark, drawn in a square of 10 by 10 around the origin: a tick, a cross or a padlock.
@@ -124,6 +137,20 @@ void Label::setBackColor(QRgb colour) {
     setColour(*this, QPalette::Window, colour);
 }
 
+void Label::setPanel(QRgb fill, QRgb border) {
+    panelFill_ = fill;
+    panelBorder_ = border;
+    update();
+}
+
+void Label::setMark(BoxMark mark) {
+    if (mark_ == mark)
+        return;
+    mark_ = mark;
+    setAccessibleDescription(markDescription(mark));
+    update();
+}
+
 void Label::mousePressEvent(QMouseEvent* event) {
     pressed_ = event->button() == Qt::LeftButton;
     event->accept();
@@ -144,7 +171,8 @@ void Label::mouseMoveEvent(QMouseEvent* event) {
 }
 
 void Label::keyPressEvent(QKeyEvent* event) {
-    const bool presses = event->key() == Qt::Key_Space || event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
+    const bool presses =
+        event->key() == Qt::Key_Space || event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
     if (presses && onClick && !event->isAutoRepeat())
         onClick();
     else
@@ -162,7 +190,11 @@ void Label::focusOutEvent(QFocusEvent* event) {
 }
 
 void Label::paintEvent(QPaintEvent* event) {
+    if (qAlpha(panelFill_) != 0)
+        paintPanel(*this, panelFill_, panelBorder_);
     QLabel::paintEvent(event);
+    if (mark_ != BoxMark::None)
+        paintBoxMark(*this, mark_);
     if (hasFocus())
         paintFocusMark(*this);
 }
@@ -260,6 +292,14 @@ StoryBox::StoryBox(QWidget* parent) : QPlainTextEdit(parent) {
     setFrameShape(QFrame::NoFrame);
     setContextMenuPolicy(Qt::NoContextMenu);
     setTabChangesFocus(true);
+}
+
+DropList::DropList(QWidget* parent) : QComboBox(parent) {
+    setMaxVisibleItems(16);
+    connect(this, &QComboBox::activated, this, [this] {
+        if (onClick)
+            onClick();
+    });
 }
 
 CommandButton::CommandButton(const QString& caption, QWidget* parent) : QPushButton(caption, parent) {

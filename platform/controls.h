@@ -3,6 +3,7 @@
 #include "platform/look.h"
 
 #include <QAbstractButton>
+#include <QComboBox>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPlainTextEdit>
@@ -29,6 +30,9 @@ inline constexpr int down = 40;
 /// The key code of a Qt key, 0 for keys without one here.
 int keyCode(int qtKey);
 
+/// What a box or an answer label tells of its answer beside its colours: a small sign at the right edge.
+enum class BoxMark { None, Right, Wrong, Given };
+
 /// A text on a form. With `onClick` set it can be clicked, by keyboard too where it takes the focus.
 class Label : public QLabel {
     Q_OBJECT
@@ -40,6 +44,11 @@ class Label : public QLabel {
     void setForeColor(QRgb colour);
     QRgb foreColor() const;
     void setBackColor(QRgb colour);
+    /// Draws the label as a panel: a filled, rounded ground with a border. A transparent fill takes it away.
+    void setPanel(QRgb fill, QRgb border);
+    /// A screen reader is told the same.
+    void setMark(BoxMark mark);
+    BoxMark mark() const { return mark_; }
 
     std::function<void()> onClick;
     std::function<void()> onMouseMove;
@@ -55,10 +64,10 @@ class Label : public QLabel {
 
    private:
     bool pressed_ = false;
+    QRgb panelFill_ = 0;
+    QRgb panelBorder_ = 0;
+    BoxMark mark_ = BoxMark::None;
 };
-
-/// What a box tells of its answer beside its colours: a small sign at its right edge.
-enum class BoxMark { None, Right, Wrong, Given };
 
 /// A one-line box. Takes Latin letters whatever the keyboard mode.
 class TextBox : public QLineEdit {
@@ -101,6 +110,16 @@ class StoryBox : public QPlainTextEdit {
     explicit StoryBox(QWidget* parent);
     void setText(const QString& text) { setPlainText(text); }
     QString text() const { return toPlainText(); }
+};
+
+/// A drop-down list. `onClick` runs when the learner picks an entry.
+class DropList : public QComboBox {
+    Q_OBJECT
+   public:
+    explicit DropList(QWidget* parent);
+    QString text() const { return currentText(); }
+
+    std::function<void()> onClick;
 };
 
 class CommandButton : public QPushButton {

@@ -107,6 +107,15 @@ StoryBox& Form::addStoryBox(const QString& name, const QRect& designRect) {
     return *box;
 }
 
+DropList& Form::addDropList(const QString& name, const QRect& designRect, const QString& spokenName) {
+    auto* list = new DropList(this);
+    list->setObjectName(name);
+    list->setAccessibleName(spokenName);
+    list->setFont(roleFont(TextRole::Body, scale_));
+    place(*list, designRect);
+    return *list;
+}
+
 PictureButton& Form::addPictureButton(const QString& name, const QRect& designRect, const QString& spokenName) {
     auto* button = new PictureButton(this);
     button->setObjectName(name);

@@ -46,6 +46,7 @@ class Form : public QWidget {
     Label& addLabel(const QString& name, const QRect& designRect, TextRole role, const QString& caption = {});
     TextBox& addTextBox(const QString& name, const QRect& designRect, TextRole role);
     StoryBox& addStoryBox(const QString& name, const QRect& designRect);
+    DropList& addDropList(const QString& name, const QRect& designRect, const QString& spokenName);
     PictureButton& addPictureButton(const QString& name, const QRect& designRect, const QString& spokenName);
     CommandButton& addButton(const QString& name, const QRect& designRect, const QString& caption);
     /// Adds the next member of an array.

@@ -20,12 +20,12 @@ struct RoleLook {
 };
 
 constexpr std::array looks{
-    RoleLook{TextRole::Title, 24, true},    RoleLook{TextRole::Heading, 17, true},
-    RoleLook{TextRole::Body, 14, false},    RoleLook{TextRole::Small, 12, false},
-    RoleLook{TextRole::Caption, 13, true},  RoleLook{TextRole::Prompt, 14, false},
-    RoleLook{TextRole::Answer, 14, true},   RoleLook{TextRole::Sentence, 24, false},
-    RoleLook{TextRole::Choice, 19, true},   RoleLook{TextRole::Letter, 22, true},
-    RoleLook{TextRole::Meaning, 28, true},
+    RoleLook{TextRole::Title, 24, true},   RoleLook{TextRole::Heading, 17, true},
+    RoleLook{TextRole::Body, 14, false},   RoleLook{TextRole::Small, 12, false},
+    RoleLook{TextRole::Caption, 13, true}, RoleLook{TextRole::Prompt, 14, false},
+    RoleLook{TextRole::Answer, 14, true},  RoleLook{TextRole::Sentence, 24, false},
+    RoleLook{TextRole::Choice, 19, true},  RoleLook{TextRole::Letter, 22, true},
+    RoleLook{TextRole::Meaning, 28, true}, RoleLook{TextRole::Row, 17, false},
 };
 
 QString koreanFamily() {
@@ -35,7 +35,8 @@ QString koreanFamily() {
 }  // namespace
 
 QFont roleFont(TextRole role, double scale) {
-    const auto look = std::find_if(looks.begin(), looks.end(), [&](const RoleLook& l) { return l.role == role; });
+    const auto look =
+        std::find_if(looks.begin(), looks.end(), [&](const RoleLook& l) { return l.role == role; });
     QFont font(koreanFamily());
     font.setPixelSize(std::max(8, qRound(look->pixels * scale)));
     font.setBold(look->bold);

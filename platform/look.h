@@ -6,7 +6,20 @@
 namespace platform {
 
 /// What a piece of text is for; its size and weight follow from that, the same on every screen.
-enum class TextRole { Title, Heading, Body, Small, Caption, Prompt, Answer, Sentence, Choice, Letter, Meaning };
+enum class TextRole {
+    Title,
+    Heading,
+    Body,
+    Small,
+    Caption,
+    Prompt,
+    Answer,
+    Sentence,
+    Choice,
+    Letter,
+    Meaning,
+    Row
+};
 
 namespace colour {
 inline constexpr QRgb black = 0xff000000;

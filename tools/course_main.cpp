@@ -1,9 +1,12 @@
-// The tools of a course under one name: course import, course export-scores …
+// The tools of a course under one name: course build, course check, course import …
 
+#include "platform/application.h"
+#include "tools/build_command.h"
+#include "tools/check_command.h"
 #include "tools/export_command.h"
 #include "tools/import_command.h"
-
-#include <QApplication>
+#include "tools/offscreen.h"
+#include "tools/play_command.h"
 
 #include <array>
 #include <cstdio>
@@ -15,14 +18,22 @@ struct Subcommand {
     const char* name;
     const char* purpose;
     int (*run)(const QStringList& args);
-    bool draws;  // needs fonts, though no window
+    bool draws;  // needs fonts, though no window of the desktop
 };
 
+/// An import ends with the check of what it made.
+int importAndCheck(const QStringList& args) {
+    return tools::runImport(
+        args, [](const QString& root) { return tools::runCheck({QStringLiteral("--root"), root}); });
+}
+
 constexpr std::array subcommands{
-    Subcommand{"import", "bring an existing install over from its Access files",
-               [](const QStringList& args) { return tools::runImport(args); }, false},
+    Subcommand{"build", "make the stores of an install from a course's text tables", tools::runBuild, false},
+    Subcommand{"check", "hold a course against every demand of the screens", tools::runCheck, false},
+    Subcommand{"import", "bring an existing install over from its Access files", importAndCheck, false},
     Subcommand{"export-scores", "give the scores of learners as a table and as a printable page",
-               [](const QStringList& args) { return tools::runExportScores(args); }, true},
+               tools::runExportScores, true},
+    Subcommand{"play", "play every step through the real screens and tell the scores", tools::runPlay, true},
 };
 
 int showUsage(std::FILE* stream, int status) {
@@ -36,9 +47,8 @@ int showUsage(std::FILE* stream, int status) {
 std::unique_ptr<QCoreApplication> makeApplication(const Subcommand& command, int& argc, char** argv) {
     if (!command.draws)
         return std::make_unique<QCoreApplication>(argc, argv);
-    if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM"))
-        qputenv("QT_QPA_PLATFORM", "offscreen");
-    return std::make_unique<QApplication>(argc, argv);
+    tools::useOffscreenDesktop();
+    return std::make_unique<platform::Application>(argc, argv);
 }
 
 }  // namespace

@@ -43,30 +43,50 @@ bool isAuthored(const QString& table) {
     });
 }
 
-void readFolder(CourseSource& course, const QString& folder, const QString& shownPrefix, int topicNo) {
+/// Throws the error, or keeps it where somebody collects them.
+void complain(Damages* damages, const SourceError& error) {
+    if (damages == nullptr)
+        throw error;
+    damages->push_back(error);
+}
+
+void readFolder(CourseSource& course, const QString& folder, const QString& shownPrefix, int topicNo,
+                Damages* damages) {
     const QDir dir(folder);
     for (const QString& name : dir.entryList({QStringLiteral("*.csv")}, QDir::Files, QDir::Name)) {
-        TableFile table = readTableFile(dir.filePath(name), shownPrefix + name);
-        if (!isAuthored(table.table))
-            throw SourceError({table.file, 0, {}}, QStringLiteral("a course has no table of this name"));
-        course.tables.push_back({topicNo, std::move(table)});
+        try {
+            TableFile table = readTableFile(dir.filePath(name), shownPrefix + name);
+            if (!isAuthored(table.table))
+                throw SourceError({table.file, 0, {}}, QStringLiteral("a course has no table of this name"));
+            course.tables.push_back({topicNo, std::move(table)});
+        } catch (const SourceError& error) {
+            complain(damages, error);
+        }
     }
 }
 
-Value parseValue(const TableFile& table, const TableRow& row, const core::FieldShape& field, const QString& name) {
-    const QString text = table.field(row, name);
+// Running numbers order rows and are not read into 16 bits; all other numbers are.
+bool holdsNumber(const core::FieldShape& field, qlonglong number) {
+    return field.name == "autono" || (number >= -32768 && number <= 32767);
+}
+
+Value parseValue(const QString& text, const core::FieldShape& field, const SourcePlace& place,
+                 Damages* damages) {
     if (field.kind == core::FieldKind::Text || field.kind == core::FieldKind::Date)
         return text;
     if (text.isEmpty())
         return {};
     bool isNumber = false;
     const qlonglong number = text.toLongLong(&isNumber);
-    if (!isNumber)
-        throw SourceError(table.place(row, name), QStringLiteral("'%1' is not a whole number").arg(text));
-    return static_cast<std::int64_t>(number);
+    if (isNumber && holdsNumber(field, number))
+        return static_cast<std::int64_t>(number);
+    complain(damages,
+             SourceError(place, QStringLiteral("'%1' is not a whole number of -32768 to 32767").arg(text)));
+    return {};
 }
 
-/// Fills a field that is empty in every row of a group with 1, 2, 3 …; groups are rows of the same key.
+/// Fills empty fields with the number after that of the row before, from 1 on; rows of the same key count
+/// together.
 void numberRows(BuiltTable& table, const QString& field, const QString& key) {
     const int column = table.column(field);
     std::map<qlonglong, std::int64_t> last;
@@ -76,6 +96,8 @@ void numberRows(BuiltTable& table, const QString& field, const QString& key) {
         auto& value = row.values[static_cast<std::size_t>(column)];
         if (value.isNull())
             value = ++last[group];
+        else if (const auto* number = std::get_if<std::int64_t>(&value.content()))
+            last[group] = *number;
     }
 }
 
@@ -97,14 +119,14 @@ std::vector<const CourseSource::UnitTable*> CourseSource::named(const QString& t
     return found;
 }
 
-CourseSource readCourse(const QString& folder) {
+CourseSource readCourse(const QString& folder, Damages* damages) {
     CourseSource course{folder, {}};
-    readFolder(course, folder, QString(), 0);
+    readFolder(course, folder, QString(), 0, damages);
     static const QRegularExpression unitName(QStringLiteral("^unit(\\d+)$"));
     const QDir dir(folder);
     for (const QString& name : dir.entryList(QDir::Dirs | QDir::NoDotAndDotDot, QDir::Name))
         if (const auto match = unitName.match(name); match.hasMatch())
-            readFolder(course, dir.filePath(name), name + u'/', match.captured(1).toInt());
+            readFolder(course, dir.filePath(name), name + u'/', match.captured(1).toInt(), damages);
     if (course.tables.empty())
         throw SourceError({folder, 0, {}}, QStringLiteral("the folder holds no course"));
     return course;
@@ -121,7 +143,7 @@ const Value& BuiltTable::value(const BuiltRow& row, const QString& name) const {
     return row.values[static_cast<std::size_t>(column(name))];
 }
 
-BuiltCourse::BuiltCourse(const CourseSource& source) {
+BuiltCourse::BuiltCourse(const CourseSource& source, Damages* damages) : damages_(damages) {
     for (const AuthoredTable& authored : authoredTables)
         add(source, QLatin1String(authored.store), QLatin1String(authored.table));
     fillCounts();
@@ -133,18 +155,35 @@ void BuiltCourse::add(const CourseSource& source, const QString& store, const QS
     BuiltTable built{store, fromView(definition->table), {}, {}};
     for (const core::FieldShape& field : definition->fields)
         built.fields.append(fromView(field.name));
-    for (const auto* unit : source.named(table)) {
-        for (const TableRow& row : unit->table.rows) {
-            BuiltRow builtRow{{}, unit->table.place(row)};
-            for (const core::FieldShape& field : definition->fields)
-                builtRow.values.push_back(parseValue(unit->table, row, field, fromView(field.name)));
-            if (const int topic = built.column(QStringLiteral("topicno")); topic >= 0 && unit->topicNo > 0)
-                if (auto& value = builtRow.values[static_cast<std::size_t>(topic)]; value.isNull())
-                    value = unit->topicNo;
-            built.rows.push_back(std::move(builtRow));
-        }
-    }
+    for (const auto* unit : source.named(table))
+        addRows(built, *unit);
     tables_.push_back(std::move(built));
+}
+
+void BuiltCourse::addRows(BuiltTable& built, const CourseSource::UnitTable& unit) {
+    const TableFile& table = unit.table;
+    for (const QString& column : table.columns)
+        if (built.column(column) < 0)
+            complain(damages_, SourceError({table.file, 1, column},
+                                           QStringLiteral("the table has no field of this name; it has %1")
+                                               .arg(built.fields.join(QStringLiteral(", ")))));
+    const auto* definition = core::findTable(built.store.toStdString(), built.table.toStdString());
+    std::vector<int> columns;
+    for (const QString& field : built.fields)
+        columns.push_back(table.column(field));
+    const int topic = built.column(QStringLiteral("topicno"));
+    for (const TableRow& row : table.rows) {
+        BuiltRow builtRow{{}, table.place(row)};
+        for (std::size_t i = 0; i < columns.size(); ++i) {
+            const QString text = columns[i] < 0 ? QString() : row.fields[columns[i]];
+            const SourcePlace place = table.place(row, built.fields[static_cast<qsizetype>(i)]);
+            builtRow.values.push_back(parseValue(text, definition->fields[i], place, damages_));
+        }
+        if (topic >= 0 && unit.topicNo > 0)
+            if (auto& value = builtRow.values[static_cast<std::size_t>(topic)]; value.isNull())
+                value = unit.topicNo;
+        built.rows.push_back(std::move(builtRow));
+    }
 }
 
 const BuiltTable& BuiltCourse::table(const QString& name) const {
@@ -187,7 +226,8 @@ void BuiltCourse::addDictionary() {
     BuiltTable dictionary{QStringLiteral("dicword.mdb"), QStringLiteral("dicword"), {}, {}};
     dictionary.fields = {QStringLiteral("word"), QStringLiteral("scode"), QStringLiteral("defsen")};
     BuiltTable all{QStringLiteral("dicword.mdb"), QStringLiteral("allword"), {QStringLiteral("word")}, {}};
-    BuiltTable allKorean{QStringLiteral("dicword_K.mdb"), QStringLiteral("allword"), {QStringLiteral("word")}, {}};
+    BuiltTable allKorean{
+        QStringLiteral("dicword_K.mdb"), QStringLiteral("allword"), {QStringLiteral("word")}, {}};
     for (auto word = words_.cbegin(); word != words_.cend(); ++word) {
         dictionary.rows.push_back({{word.key(), word.key(), word.value()}, {}});
         all.rows.push_back({{word.key()}, {}});

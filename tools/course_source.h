@@ -23,9 +23,13 @@ struct CourseSource {
     std::vector<const UnitTable*> named(const QString& table) const;
 };
 
+/// Told of each place that cannot be read; reading then goes on behind it. Without one the first such place
+/// ends the reading.
+using Damages = std::vector<SourceError>;
+
 /// Reads every table below a course folder: `topic.csv` beside folders `unit01`, `unit02` … Throws
 /// SourceError; one for a file whose name is no table of a course, too.
-CourseSource readCourse(const QString& folder);
+CourseSource readCourse(const QString& folder, Damages* damages = nullptr);
 
 /// One row of a store's table as built, with the place in the text table that it came from.
 struct BuiltRow {
@@ -47,8 +51,8 @@ struct BuiltTable {
 /// that the author left out are filled in.
 class BuiltCourse {
    public:
-    /// Throws SourceError where a number is no number.
-    explicit BuiltCourse(const CourseSource& source);
+    /// Throws SourceError where a number is no number or too large, or a column has no place in its table.
+    explicit BuiltCourse(const CourseSource& source, Damages* damages = nullptr);
 
     const std::vector<BuiltTable>& tables() const { return tables_; }
     const BuiltTable& table(const QString& name) const;
@@ -57,9 +61,11 @@ class BuiltCourse {
 
    private:
     void add(const CourseSource& source, const QString& store, const QString& table);
+    void addRows(BuiltTable& built, const CourseSource::UnitTable& unit);
     void fillCounts();
     void addDictionary();
 
+    Damages* damages_;
     std::vector<BuiltTable> tables_;
     QMap<QString, QString> words_;  // word, meaning
 };

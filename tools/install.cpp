@@ -1,17 +1,18 @@
 #include "tools/install.h"
 
 #include "platform/database.h"
+#include "tools/check.h"
 #include "tools/course_source.h"
 #include "tools/store_writer.h"
 #include "tools/wave.h"
 
 #include <QCryptographicHash>
+#include <QDateTime>
 #include <QDir>
 #include <QDirIterator>
 #include <QFile>
 #include <QFileInfo>
 #include <QSaveFile>
-#include <QDateTime>
 
 #include <array>
 
@@ -50,19 +51,48 @@ class Installer {
     explicit Installer(const InstallPlan& plan) : plan_(plan), root_(plan.root) {}
 
     void run() {
-        claimRoot();
         const BuiltCourse course(readCourse(plan_.courseFolder));
+        checkCourse(course);
+        claimRoot();
         makeStores(course);
         makeScores();
         copyPictures();
         makeEffects();
         copyReports();
         if (plan_.speakWords)
-            speakWords(course.words().keys(), root_.filePath(QStringLiteral("D/A_Mendori/ABCSound")), plan_.progress);
+            speakWords(course.words().keys(), root_.filePath(QStringLiteral("D/A_Mendori/ABCSound")),
+                       plan_.progress);
         writeMark(courseStamp());
     }
 
+    BuiltStores runStores() {
+        const BuiltCourse course(readCourse(plan_.courseFolder));
+        BuiltStores built;
+        built.warnings = checkCourse(course);
+        claimRoot();
+        makeStores(course);
+        writeMark(courseStamp());
+        built.stores = static_cast<int>(contentStores.size());
+        for (const BuiltTable& table : course.tables())
+            built.rows += static_cast<int>(table.rows.size());
+        return built;
+    }
+
    private:
+    /// Throws where the course has an error; gives the number of warnings.
+    static int checkCourse(const BuiltCourse& built) {
+        const check::Course course(built.tables());
+        const std::vector<check::Finding> findings = check::checkCourse(course);
+        const int errors = check::errorCount(findings);
+        if (errors == 0)
+            return static_cast<int>(findings.size());
+        QString told = QStringLiteral("The course has %1 errors, and nothing was built.").arg(errors);
+        for (const check::Finding& finding : findings)
+            if (finding.severity == check::Severity::Error)
+                told += u'\n' + finding.text();
+        refuse(told);
+    }
+
     void tell(const QString& what, int done, int total) const {
         if (plan_.progress)
             plan_.progress(what, done, total);
@@ -72,18 +102,21 @@ class Installer {
 
     void claimRoot() {
         if (!root_.mkpath(QStringLiteral(".")))
-            refuse(QStringLiteral("The folder %1 cannot be made. Choose another with --root.").arg(plan_.root));
-        if (!root_.isEmpty(QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot) && !QFile::exists(markFile()))
+            refuse(
+                QStringLiteral("The folder %1 cannot be made. Choose another with --root.").arg(plan_.root));
+        if (!root_.isEmpty(QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot) &&
+            !QFile::exists(markFile()))
             refuse(QStringLiteral("%1 holds files that are no install of this program; nothing was changed. "
                                   "Choose an empty folder with --root.")
                        .arg(plan_.root));
         if (!QFile::exists(markFile()))
             writeMark(QStringLiteral("unfinished"));
-        for (const char* folder : {"C/A_Mendori/Main", "C/Larkfield/Larkfield2013/Tovalin1", "D/button", "D/interface",
-                                   "D/A_Mendori/ABCPicture", "D/A_Mendori/ABCSound",
+        for (const char* folder : {"C/A_Mendori/Main", "C/Larkfield/Larkfield2013/Tovalin1", "D/button",
+                                   "D/interface", "D/A_Mendori/ABCPicture", "D/A_Mendori/ABCSound",
                                    "D/A_Mendori/Mendori_Program/Tovalin1_Video", "E", "F", "G", "H"})
             if (!root_.mkpath(QLatin1String(folder)))
-                refuse(QStringLiteral("The folder %1 cannot be made.").arg(root_.filePath(QLatin1String(folder))));
+                refuse(QStringLiteral("The folder %1 cannot be made.")
+                           .arg(root_.filePath(QLatin1String(folder))));
     }
 
     void writeMark(const QString& stamp) const {
@@ -96,7 +129,8 @@ class Installer {
         QCryptographicHash hash(QCryptographicHash::Sha1);
         hash.addData(QByteArray::number(layoutVersion));
         QStringList files;
-        for (QDirIterator it(plan_.courseFolder, {QStringLiteral("*.csv")}, QDir::Files, QDirIterator::Subdirectories);
+        for (QDirIterator it(plan_.courseFolder, {QStringLiteral("*.csv")}, QDir::Files,
+                             QDirIterator::Subdirectories);
              it.hasNext();)
             files.append(it.next());
         files.sort();
@@ -123,8 +157,9 @@ class Installer {
             const QString file = root_.filePath(QLatin1String(place.path));
             const bool exists = QFile::exists(file);
             if (exists && !madeBySetup(file))
-                refuse(QStringLiteral("%1 was not made by this set-up and is left as it is. Move it away, or choose "
-                                      "another folder with --root.")
+                refuse(QStringLiteral(
+                           "%1 was not made by this set-up and is left as it is. Move it away, or choose "
+                           "another folder with --root.")
                            .arg(file));
             if (!exists || !current)
                 writeStore(file, QLatin1String(place.store), course.tables());
@@ -134,7 +169,8 @@ class Installer {
     void makeScores() const {
         if (plan_.userId.isEmpty())
             return;
-        const QString file = root_.filePath(QStringLiteral("C/A_Mendori/Main/DbScore_%1.mdb").arg(plan_.userId));
+        const QString file =
+            root_.filePath(QStringLiteral("C/A_Mendori/Main/DbScore_%1.mdb").arg(plan_.userId));
         if (!QFile::exists(file))
             writeStore(file, QStringLiteral("DbScore"), {});
     }
@@ -142,7 +178,8 @@ class Installer {
     static void copyNewer(const QString& from, const QString& to) {
         const QFileInfo source(from);
         const QFileInfo target(to);
-        if (target.exists() && target.size() == source.size() && target.lastModified() >= source.lastModified())
+        if (target.exists() && target.size() == source.size() &&
+            target.lastModified() >= source.lastModified())
             return;
         QFile::remove(to);
         if (!QFile::copy(from, to))
@@ -160,7 +197,8 @@ class Installer {
         for (const char* folder : {"interface", "button"})
             copyFolder(plan_.pictureFolder + u'/' + QLatin1String(folder), QStringLiteral("*.jpg"),
                        QStringLiteral("D/") + QLatin1String(folder));
-        copyNewer(plan_.pictureFolder + QStringLiteral("/button/hand.cur"), root_.filePath(QStringLiteral("D/harrow.cur")));
+        copyNewer(plan_.pictureFolder + QStringLiteral("/button/hand.cur"),
+                  root_.filePath(QStringLiteral("D/harrow.cur")));
         copyNewer(plan_.pictureFolder + QStringLiteral("/interface/login.jpg"),
                   root_.filePath(QStringLiteral("D/A_Mendori/ABCPicture/Mendori.jpg")));
         tell(QStringLiteral("pictures"), 1, 1);
@@ -175,7 +213,8 @@ class Installer {
 
     void copyReports() const {
         if (!plan_.reportFolder.isEmpty())
-            copyFolder(plan_.reportFolder, QStringLiteral("*.rpt"), QStringLiteral("C/Larkfield/Larkfield2013/Tovalin1"));
+            copyFolder(plan_.reportFolder, QStringLiteral("*.rpt"),
+                       QStringLiteral("C/Larkfield/Larkfield2013/Tovalin1"));
     }
 
     const InstallPlan& plan_;
@@ -194,6 +233,10 @@ bool madeBySetup(const QString& storeFile) {
 
 void makeInstall(const InstallPlan& plan) {
     Installer(plan).run();
+}
+
+BuiltStores makeStores(const InstallPlan& plan) {
+    return Installer(plan).runStores();
 }
 
 }  // namespace tools

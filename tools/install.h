@@ -23,6 +23,15 @@ struct InstallPlan {
 /// says what is in the way and what to do.
 void makeInstall(const InstallPlan& plan);
 
+struct BuiltStores {
+    int stores = 0;
+    int rows = 0;
+    int warnings = 0;  // of the course's check; an error would have stopped the build
+};
+
+/// Makes or renews the stores of an install alone, under the same rules.
+BuiltStores makeStores(const InstallPlan& plan);
+
 /// True for a store that `writeStore` made, told by a mark inside it.
 bool madeBySetup(const QString& storeFile);
 

@@ -7,6 +7,7 @@
 #include <QCommandLineParser>
 #include <QCoreApplication>
 #include <QDir>
+#include <QProcess>
 
 #include <unistd.h>
 
@@ -31,18 +32,25 @@ QString folderBeside(const QString& relative) {
 }
 
 struct Options {
-    QCommandLineOption root{QStringLiteral("root"), QStringLiteral("Folder that plays the drives."), QStringLiteral("folder")};
-    QCommandLineOption course{QStringLiteral("course"), QStringLiteral("Folder with the course's text tables."),
+    QCommandLineOption root{QStringLiteral("root"), QStringLiteral("Folder that plays the drives."),
+                            QStringLiteral("folder")};
+    QCommandLineOption course{QStringLiteral("course"),
+                              QStringLiteral("Folder with the course's text tables."),
                               QStringLiteral("folder"), folderBeside(QStringLiteral("../../../starter"))};
-    QCommandLineOption pictures{QStringLiteral("pictures"), QStringLiteral("Folder with the rendered pictures."),
+    QCommandLineOption pictures{QStringLiteral("pictures"),
+                                QStringLiteral("Folder with the rendered pictures."),
                                 QStringLiteral("folder"), folderBeside(QStringLiteral("../pictures"))};
     QCommandLineOption reports{QStringLiteral("reports"), QStringLiteral("Folder with the report templates."),
                                QStringLiteral("folder"), folderBeside(QStringLiteral("../../../reports"))};
-    QCommandLineOption userId{QStringLiteral("user-id"), QStringLiteral("Student number."), QStringLiteral("number")};
-    QCommandLineOption name{QStringLiteral("name"), QStringLiteral("Name on scores and worksheets."), QStringLiteral("name")};
+    QCommandLineOption userId{QStringLiteral("user-id"), QStringLiteral("Student number."),
+                              QStringLiteral("number")};
+    QCommandLineOption name{QStringLiteral("name"), QStringLiteral("Name on scores and worksheets."),
+                            QStringLiteral("name")};
     QCommandLineOption teacher{QStringLiteral("teacher"), QStringLiteral("Log in as a teacher.")};
-    QCommandLineOption guest{QStringLiteral("guest"), QStringLiteral("Where nobody is logged in yet, log in as student 1001.")};
+    QCommandLineOption guest{QStringLiteral("guest"),
+                             QStringLiteral("Where nobody is logged in yet, log in as student 1001.")};
     QCommandLineOption silent{QStringLiteral("no-sounds"), QStringLiteral("Leave the words unspoken.")};
+    QCommandLineOption noVideos{QStringLiteral("no-videos"), QStringLiteral("Make no video lessons.")};
 };
 
 void writeIdentity(const QString& userId, const QCommandLineParser& parser, const Options& options) {
@@ -55,6 +63,16 @@ void writeIdentity(const QString& userId, const QCommandLineParser& parser, cons
                    parser.isSet(options.teacher) ? QStringLiteral("Teacher") : QString());
 }
 
+/// The maker of videos draws, which takes a program with fonts; it tells its own progress. A course without
+/// videos still runs, so that nothing here stops the set-up.
+void makeVideos(const tools::InstallPlan& plan) {
+    std::fflush(stdout);
+    const QString maker = folderBeside(QStringLiteral("make_videos"));
+    if (QProcess::execute(
+            maker, {QStringLiteral("--root"), plan.root, QStringLiteral("--course"), plan.courseFolder}) != 0)
+        std::fprintf(stderr, "Not all video lessons could be made; the lessons run without them.\n");
+}
+
 }  // namespace
 
 int main(int argc, char** argv) {
@@ -65,12 +83,13 @@ int main(int argc, char** argv) {
     parser.setApplicationDescription(
         QStringLiteral("Makes a complete install of a course. Can be run again: scores are never touched."));
     parser.addHelpOption();
-    parser.addOptions({options.root, options.course, options.pictures, options.reports, options.userId, options.name,
-                       options.teacher, options.guest, options.silent});
+    parser.addOptions({options.root, options.course, options.pictures, options.reports, options.userId,
+                       options.name, options.teacher, options.guest, options.silent, options.noVideos});
     parser.process(app);
 
     const platform::UserSettings settings;
-    const QString knownUser = settings.read(application, QStringLiteral("General Information"), QStringLiteral("UserID"), QString());
+    const QString knownUser = settings.read(application, QStringLiteral("General Information"),
+                                            QStringLiteral("UserID"), QString());
     tools::InstallPlan plan;
     plan.root = parser.isSet(options.root) ? parser.value(options.root) : core::drivesRoot(settings);
     plan.courseFolder = parser.value(options.course);
@@ -83,13 +102,16 @@ int main(int argc, char** argv) {
     plan.speakWords = !parser.isSet(options.silent);
     plan.progress = showProgress;
     if (plan.userId.contains(u'\'') || plan.userId.contains(u'/') || plan.userId.contains(u'\\')) {
-        std::fprintf(stderr, "A student number holds letters and digits, not '%s'.\n", qPrintable(plan.userId));
+        std::fprintf(stderr, "A student number holds letters and digits, not '%s'.\n",
+                     qPrintable(plan.userId));
         return 2;
     }
     try {
         tools::makeInstall(plan);
         if (!newUser.isEmpty())
             writeIdentity(newUser, parser, options);
+        if (!parser.isSet(options.noVideos))
+            makeVideos(plan);
     } catch (const std::exception& failure) {
         std::fprintf(stderr, "\n%s\n", failure.what());
         return 1;

@@ -62,7 +62,8 @@ void checkUtf8(const QByteArray& bytes, const QString& shownName) {
     for (qsizetype i = 0; i < lines.size(); ++i) {
         const QString decoded = decoder(lines[i]);
         if (decoder.hasError())
-            throw SourceError({shownName, static_cast<int>(i) + 1, {}}, QStringLiteral("the text is not UTF-8"));
+            throw SourceError({shownName, static_cast<int>(i) + 1, {}},
+                              QStringLiteral("the text is not UTF-8"));
     }
 }
 
@@ -77,8 +78,10 @@ QString SourcePlace::text() const {
     return text;
 }
 
-SourceError::SourceError(const SourcePlace& place, const QString& sentence)
-    : std::runtime_error((place.text() + QStringLiteral(": ") + sentence).toStdString()) {}
+SourceError::SourceError(SourcePlace place, QString sentence)
+    : std::runtime_error((place.text() + QStringLiteral(": ") + sentence).toStdString()),
+      place_(std::move(place)),
+      sentence_(std::move(sentence)) {}
 
 int TableFile::column(const QString& name) const {
     for (qsizetype i = 0; i < columns.size(); ++i)
@@ -93,11 +96,14 @@ QString TableFile::field(const TableRow& row, const QString& name) const {
 }
 
 TableFile readTableFile(const QString& path, const QString& shownName) {
-    TableFile table{shownName, QFileInfo(path).completeBaseName(), {}, {}};
     QFile file(path);
     if (!file.open(QIODevice::ReadOnly))
         throw SourceError({shownName, 0, {}}, QStringLiteral("the file cannot be read"));
-    QByteArray bytes = file.readAll();
+    return parseTable(file.readAll(), shownName);
+}
+
+TableFile parseTable(QByteArray bytes, const QString& shownName) {
+    TableFile table{shownName, QFileInfo(shownName).completeBaseName(), {}, {}};
     if (bytes.startsWith("\xEF\xBB\xBF"))
         bytes.remove(0, 3);
     checkUtf8(bytes, shownName);
@@ -116,7 +122,8 @@ TableFile readTableFile(const QString& path, const QString& shownName) {
         }
         const auto length = static_cast<size_t>(end - start);
         if (csv_parse(&parser, bytes.constData() + start, length, onField, onRow, &collector) != length)
-            throw SourceError({shownName, collector.line, {}}, QStringLiteral("a quotation mark stands in the wrong place"));
+            throw SourceError({shownName, collector.line, {}},
+                              QStringLiteral("a quotation mark stands in the wrong place"));
         ++collector.line;
         start = end;
     }

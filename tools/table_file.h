@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QByteArray>
 #include <QString>
 #include <QStringList>
 
@@ -21,7 +22,14 @@ struct SourcePlace {
 /// A text table that cannot be read, with the place where reading ended.
 class SourceError : public std::runtime_error {
    public:
-    SourceError(const SourcePlace& place, const QString& sentence);
+    SourceError(SourcePlace place, QString sentence);
+
+    const SourcePlace& place() const { return place_; }
+    const QString& sentence() const { return sentence_; }
+
+   private:
+    SourcePlace place_;
+    QString sentence_;
 };
 
 /// One row of a text table and the line it starts on.
@@ -41,11 +49,15 @@ struct TableFile {
     int column(const QString& name) const;
     /// The row's text in a column, empty where the table has no such column.
     QString field(const TableRow& row, const QString& name) const;
-    SourcePlace place(const TableRow& row, const QString& field = {}) const { return {file, row.line, field}; }
+    SourcePlace place(const TableRow& row, const QString& field = {}) const {
+        return {file, row.line, field};
+    }
 };
 
 /// Reads one text table. Throws SourceError for a missing or damaged file, text that is not UTF-8, and a row
 /// with more or fewer fields than the first line names.
 TableFile readTableFile(const QString& path, const QString& shownName);
+/// The same from the bytes of a file.
+TableFile parseTable(QByteArray bytes, const QString& shownName);
 
 }  // namespace tools

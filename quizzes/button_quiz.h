@@ -1,0 +1,26 @@
+#pragma once
+
+#include "quizzes/question_quiz.h"
+
+namespace quizzes {
+
+/// `frmQuiz5`: one press of a button answers. What the buttons say and how a press is judged goes by the
+/// step.
+class ButtonQuiz final : public QuestionQuiz {
+    Q_OBJECT
+   public:
+    ButtonQuiz(core::Context& context, const QuizEntry& entry);
+
+   protected:
+    void prepare() override;
+    void showQuestion(bool) override { fillAllShown(); }
+    void chooseByDigit(int number) override;
+
+   private:
+    void pressed(int index);
+
+    ControlArray<platform::CommandButton> cmdOne_{QStringLiteral("cmdOne")};
+    Label* lblMemo_;
+};
+
+}  // namespace quizzes

@@ -1,0 +1,21 @@
+#pragma once
+
+#include "quizzes/question_quiz.h"
+
+namespace quizzes {
+
+/// One click on a choice is the answer: `frmQuiz7` with two choices, `frmQuiz8` with two to four.
+class ChoiceQuiz final : public QuestionQuiz {
+    Q_OBJECT
+   public:
+    ChoiceQuiz(core::Context& context, const QuizEntry& entry);
+
+   protected:
+    void showQuestion(bool) override { fillAllShown(); }
+    void restoreHover() override;
+
+   private:
+    void chosen(std::size_t index);
+};
+
+}  // namespace quizzes

@@ -1,0 +1,69 @@
+#pragma once
+
+#include "quizzes/quiz_catalogue.h"
+
+#include <QString>
+#include <QStringList>
+
+namespace quizzes {
+
+enum class Outcome { Right, Wrong, NotJudged };
+
+/// What a judge says of an answer. `message`, `sounds` and `marksRow` count for a wrong one alone.
+struct Verdict {
+    Outcome outcome = Outcome::NotJudged;
+    QString message{};
+    bool sounds = true;
+    bool marksRow = true;
+};
+
+/// Compares one answer with one field. `ByRecord` is no comparison of its own and never matches.
+bool matches(Compare compare, const QString& answer, const QString& field);
+
+/// A click on one choice; with `either` the second field is as good as the first.
+Verdict judgeChoice(Compare compare, const QString& choice, const QString& a1, const QString& a2,
+                    bool either);
+
+/// Two picks, one of each pair.
+Verdict judgePicks(Compare compare, const QString& first, const QString& second, const QString& a1,
+                   const QString& a2);
+
+/// The word typed for the wrong one of a sentence. The step says which field holds it; on a step that the
+/// rules do not name nothing is judged.
+Verdict judgeCorrection(int recordNo, const QString& typed, const QString& a1, const QString& a2,
+                        bool byEnter);
+
+/// How many buttons there are.
+inline constexpr int buttonCount = 5;
+
+/// The buttons of a step: captions, those beyond being hidden, and the instruction.
+struct ButtonSet {
+    std::span<const char* const> captions;
+    const char* memo;
+};
+ButtonSet buttonSet(int recordNo);
+
+/// A press of the button with an index and a caption.
+Verdict judgeButton(int recordNo, int index, const QString& caption, const QString& a1);
+
+/// A typed sentence, letter by letter to the length of the answer; what follows is not looked at.
+Verdict judgeSentence(const QString& typed, const QString& a1);
+
+/// Which field a label of the sentence quiz takes on a step; null leaves the label as it is.
+struct SentenceFields {
+    const char* word;
+    const char* korean;
+};
+SentenceFields sentenceFields(int recordNo);
+
+/// The words of an answer in box order. A single word stays whole, several are filtered to their letters.
+QStringList answerWords(const QString& a1);
+
+/// Words typed in boxes. For a count of boxes that the screen has not, nothing is compared.
+Verdict judgeWords(Compare compare, const QStringList& boxes, const QString& a1);
+
+/// Cuts a sentence into the words that can be clicked: the first as it stands, the others lower-cased and
+/// without marks. A sentence without a blank gives none.
+QStringList cutSentence(const QString& sentence);
+
+}  // namespace quizzes

@@ -1,0 +1,21 @@
+#pragma once
+
+#include "platform/form.h"
+#include "quizzes/quiz_catalogue.h"
+
+namespace quizzes {
+
+/// The left edge and the width of what stands on the content card.
+inline constexpr int cardLeft = 40;
+inline constexpr int cardWidth = 788;
+
+/// The text role that goes with a look.
+platform::TextRole roleOf(Look look);
+
+/// Dresses a label: its ground, its margins, the way its text stands.
+void dress(platform::Label& label, Look look);
+
+/// Makes a label look and behave like something to click.
+void makeClickable(platform::Label& label);
+
+}  // namespace quizzes

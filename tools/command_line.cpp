@@ -1,0 +1,44 @@
+#include "tools/command_line.h"
+
+#include <QCoreApplication>
+#include <QDir>
+
+#include <cstdio>
+
+namespace tools {
+
+CommandLine::CommandLine(const QString& name, const QString& description)
+    : name_(name), help_(parser_.addHelpOption()) {
+    parser_.setApplicationDescription(description);
+}
+
+std::optional<int> CommandLine::parse(const QStringList& arguments) {
+    if (!parser_.parse(QStringList{name_} + arguments))
+        return wrongCall(parser_.errorText());
+    if (!parser_.isSet(help_))
+        return {};
+    QString text = parser_.helpText();
+    // The parser names the program alone.
+    const auto lineEnd = text.indexOf(u'\n');
+    const auto options = text.indexOf(QStringLiteral(" [options]"));
+    if (options >= 0 && options < lineEnd)
+        text.replace(0, options, QStringLiteral("Usage: ") + name_);
+    std::fputs(text.toUtf8().constData(), stdout);
+    return exitFine;
+}
+
+int CommandLine::wrongCall(const QString& sentence) const {
+    std::fprintf(stderr, "%s: %s\n%s --help tells how it is called.\n", qUtf8Printable(name_),
+                 qUtf8Printable(sentence), qUtf8Printable(name_));
+    return exitWrongCall;
+}
+
+QString folderBesideProgram(const QString& relative) {
+    return QDir::cleanPath(QCoreApplication::applicationDirPath() + u'/' + relative);
+}
+
+QString starterFolder() {
+    return folderBesideProgram(QStringLiteral("../../../starter"));
+}
+
+}  // namespace tools
