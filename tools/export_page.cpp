@@ -43,7 +43,7 @@ struct ColumnShape {
 constexpr std::array columns{
     ColumnShape{"단계", 34, Alignment::Right},    ColumnShape{"단원", 34, Alignment::Right},
     ColumnShape{"Unit No", 44, Alignment::Right}, ColumnShape{"", 10, Alignment::Left},
-    ColumnShape{"종류", 42, Alignment::Left},     ColumnShape{"제목", 129, Alignment::Left},
+    ColumnShape{"종류", 42, Alignment::Left},     ColumnShape{"제목", 123, Alignment::Left},
     ColumnShape{"철자", 36, Alignment::Right},    ColumnShape{"짝맞추기", 46, Alignment::Right},
     ColumnShape{"단어", 36, Alignment::Right},    ColumnShape{"점수", 46, Alignment::Right},
     ColumnShape{"날짜", 60, Alignment::Right},
@@ -160,8 +160,10 @@ void LearnerPages::row(const StepScore& step, double top, bool striped) {
     double left = margin;
     for (std::size_t i = 0; i < columns.size(); ++i) {
         const bool score = i + 2 == columns.size();
-        drawText(painter_, {left + 3, top, columns[i].width - 6, rowHeight}, columns[i].alignment, texts[i],
-                 9, score && unfinished ? warm : platform::colour::black, score && !unfinished);
+        // A step without words says so in each of three columns; a dash is read faster.
+        const QString shown = texts[i] == QStringLiteral("N/A") ? QStringLiteral("–") : texts[i];
+        drawText(painter_, {left + 3, top, columns[i].width - 6, rowHeight}, columns[i].alignment, shown, 9,
+                 score && unfinished ? warm : platform::colour::black, score && !unfinished);
         left += columns[i].width;
     }
 }
