@@ -139,6 +139,18 @@ void expectWholeStores(const QuizDesk& desk) {
         EXPECT_TRUE(score.section(u'|', 1).toInt() >= 0 && score.section(u'|', 1).toInt() <= 100);
 }
 
+/// The quiz on show, after whatever was on its way has come up; another screen that came is closed.
+core::Screen* standing(QuizDesk& desk, const QString& form) {
+    if (desk.top() != nullptr && desk.top()->objectName() == form)
+        return desk.top();
+    support::settle();
+    if (desk.top() != nullptr && desk.top()->objectName() != form) {
+        desk.top()->unload();
+        support::settle();
+    }
+    return desk.top();
+}
+
 /// Runs the events; a known error ends the run of a screen, and a new desk takes up the rest.
 void runMonkey(const QString& form, quint32 seed, bool final) {
     Monkey monkey(seed);
@@ -152,11 +164,8 @@ void runMonkey(const QString& form, quint32 seed, bool final) {
                   "select 250, 1, i, 't', '" +
                       form.toStdString() + "' from n");
         while (left > 0 && desk.failure().isEmpty()) {
-            core::Screen* screen = desk.top();
-            if (screen == nullptr || screen->objectName() != form) {
-                if (screen != nullptr)
-                    screen->unload();
-                support::settle();
+            core::Screen* screen = standing(desk, form);
+            if (screen == nullptr) {
                 openQuiz(desk, form, final);
                 screen = desk.top();
             }
