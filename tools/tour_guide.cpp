@@ -65,6 +65,32 @@ QWidget& TourGuide::control(const QString& name) const {
     return *found;
 }
 
+platform::Database TourGuide::open(const QString& drivePath) const {
+    return platform::Database::open(program_.drives().resolve(drivePath), drivePath);
+}
+
+void TourGuide::passWordsAndVideo(const QString& screen) {
+    const auto standing = [&](const char* name) {
+        const core::Screen* top = program_.screens().top();
+        return top != nullptr && top->objectName() == QLatin1String(name);
+    };
+    bool playerSeen = false;
+    waitUntil(
+        [&] {
+            for (const char* word : {"frmVoca2", "frmVoca3", "frmVoca4"})
+                if (standing(word) && firstTickDone(*program_.screens().top()))
+                    click(QStringLiteral("picNext"));
+            if (standing("frmVideo2")) {
+                playerSeen = true;
+                program_.screens().top()->close();
+            } else if (standing("frmVideo_2014") && playerSeen) {
+                click(QStringLiteral("picExit"));
+            }
+            return standing(screen.toLatin1().constData());
+        },
+        screen);
+}
+
 void TourGuide::hover(const QString& name) {
     QWidget& widget = control(name);
     QMouseEvent move(QEvent::MouseMove, widget.rect().center(), widget.mapToGlobal(widget.rect().center()), Qt::NoButton,

@@ -29,6 +29,11 @@ class TourGuide {
         return *dynamic_cast<Control*>(&control(name));
     }
 
+    /// Opens a store of the tour's install by its drive path.
+    platform::Database open(const QString& drivePath) const;
+    /// Leaves word exercises and video, should they come first, and waits for the screen behind them.
+    void passWordsAndVideo(const QString& screen);
+
     void hover(const QString& name);
     void click(const QString& name);
     /// Clicks a label or box of an array: click("txtWord", 3).

@@ -193,6 +193,15 @@ TEST(StoreCopy, ListsOnlyTheFirstProblemsOfATable) {
               QStringLiteral("D/tovalin.mdb, table newword: further problems are not listed."));
 }
 
+TEST(StoreCopy, OfAFileWithoutAnyTableOfTheCourseIsNoStore) {
+    FakeTable table = newWords();
+    table.shape.name = QStringLiteral("holidays");
+    Copy copy({table});
+    EXPECT_FALSE(copy.report.sound);
+    EXPECT_EQ(copy.report.problems,
+              QStringList{QStringLiteral("D/tovalin.mdb holds no table that the course uses.")});
+}
+
 TEST(StoreCopy, SurvivesNamesThatNoStoreCanHave) {
     FakeTable twice = newWords();
     twice.shape.name = QStringLiteral("twice");
