@@ -1,4 +1,4 @@
-#include "support/desk.h"
+#include "tests/support/desk.h"
 
 #include "tools/export_command.h"
 #include "tools/export_page.h"
