@@ -3,7 +3,7 @@
 #include "core/login_panel.h"
 #include "core/study_time.h"
 #include "course/course_table.h"
-#include "lessons/lessons.h"
+#include "lessons/drill_maker.h"
 #include "quizzes/quiz_maker.h"
 #include "video/player_window.h"
 #include "video/step_video.h"
@@ -34,7 +34,7 @@ ScreenMakers allScreens() {
                       [&quiz](core::Context& context) { return quizzes::makeQuiz(context, quiz); });
     for (const lessons::Drill& drill : lessons::drillCatalogue())
         makers.insert(QString::fromUtf8(drill.name),
-                      [&drill](core::Context& context) { return lessons::makeLesson(context, drill); });
+                      [&drill](core::Context& context) { return lessons::makeDrill(context, drill); });
     makers.insert(QStringLiteral("frmVideo"), maker<video::VideoMenu>());
     makers.insert(QStringLiteral("frmVideo2"), maker<video::PlayerWindow>());
     makers.insert(QStringLiteral("frmVideo_2014"), maker<video::StepVideo>());

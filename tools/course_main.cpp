@@ -5,6 +5,8 @@
 #include "tools/check_command.h"
 #include "tools/export_command.h"
 #include "tools/import_command.h"
+#include "tools/offscreen.h"
+#include "tools/play_command.h"
 
 #include <array>
 #include <cstdio>
@@ -31,6 +33,7 @@ constexpr std::array subcommands{
     Subcommand{"import", "bring an existing install over from its Access files", importAndCheck, false},
     Subcommand{"export-scores", "give the scores of learners as a table and as a printable page",
                tools::runExportScores, true},
+    Subcommand{"play", "play every step through the real screens and tell the scores", tools::runPlay, true},
 };
 
 int showUsage(std::FILE* stream, int status) {
@@ -44,8 +47,7 @@ int showUsage(std::FILE* stream, int status) {
 std::unique_ptr<QCoreApplication> makeApplication(const Subcommand& command, int& argc, char** argv) {
     if (!command.draws)
         return std::make_unique<QCoreApplication>(argc, argv);
-    if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM"))
-        qputenv("QT_QPA_PLATFORM", "offscreen");
+    tools::useOffscreenDesktop();
     return std::make_unique<platform::Application>(argc, argv);
 }
 

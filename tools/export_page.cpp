@@ -39,19 +39,18 @@ struct ColumnShape {
     Alignment alignment;
 };
 
-// Step, unit, place in the unit, kind, title, spelling, matching, word part, score, date.
+// Step, unit, place in the unit, a gap, kind, title, spelling, matching, word part, score, date.
 constexpr std::array columns{
-    ColumnShape{"단계", 34, Alignment::Right},     ColumnShape{"단원", 34, Alignment::Right},
-    ColumnShape{"Unit No", 44, Alignment::Right},  ColumnShape{"종류", 46, Alignment::Left},
-    ColumnShape{"제목", 121, Alignment::Left},     ColumnShape{"철자", 36, Alignment::Right},
-    ColumnShape{"짝맞추기", 46, Alignment::Right}, ColumnShape{"단어", 36, Alignment::Right},
-    ColumnShape{"점수", 46, Alignment::Right},     ColumnShape{"날짜", 68, Alignment::Right},
+    ColumnShape{"단계", 34, Alignment::Right},    ColumnShape{"단원", 34, Alignment::Right},
+    ColumnShape{"Unit No", 44, Alignment::Right}, ColumnShape{"", 10, Alignment::Left},
+    ColumnShape{"종류", 42, Alignment::Left},     ColumnShape{"제목", 123, Alignment::Left},
+    ColumnShape{"철자", 36, Alignment::Right},    ColumnShape{"짝맞추기", 46, Alignment::Right},
+    ColumnShape{"단어", 36, Alignment::Right},    ColumnShape{"점수", 46, Alignment::Right},
+    ColumnShape{"날짜", 60, Alignment::Right},
 };
 
 QFont pageFont(double size, bool bold = false) {
     QFont font = platform::roleFont(platform::TextRole::Body, 1.0);
-    font.setPixelSize(100);
-    font.setPointSizeF(-1);
     font.setPixelSize(std::max(1, static_cast<int>(std::lround(size * 100))));
     font.setBold(bold);
     return font;
@@ -149,6 +148,7 @@ void LearnerPages::row(const StepScore& step, double top, bool striped) {
     const std::array texts{QString::number(step.step),
                            QString::number(step.unit),
                            QString::number(step.place),
+                           QString(),
                            step.kind,
                            step.title,
                            step.spelling,
@@ -160,8 +160,10 @@ void LearnerPages::row(const StepScore& step, double top, bool striped) {
     double left = margin;
     for (std::size_t i = 0; i < columns.size(); ++i) {
         const bool score = i + 2 == columns.size();
-        drawText(painter_, {left + 3, top, columns[i].width - 6, rowHeight}, columns[i].alignment, texts[i],
-                 9, score && unfinished ? warm : platform::colour::black, score && !unfinished);
+        // A step without words says so in each of three columns; a dash is read faster.
+        const QString shown = texts[i] == QStringLiteral("N/A") ? QStringLiteral("–") : texts[i];
+        drawText(painter_, {left + 3, top, columns[i].width - 6, rowHeight}, columns[i].alignment, shown, 9,
+                 score && unfinished ? warm : platform::colour::black, score && !unfinished);
         left += columns[i].width;
     }
 }

@@ -28,6 +28,19 @@ QString formatOf(const QString& file) {
     return header ? QLatin1String(header->formatName()) : QStringLiteral("unknown format");
 }
 
+/// A file that goes away again unless it was moved to its place.
+class UnfinishedFile {
+   public:
+    explicit UnfinishedFile(QString name) : name_(std::move(name)) { QFile::remove(name_); }
+    ~UnfinishedFile() { QFile::remove(name_); }
+    UnfinishedFile(const UnfinishedFile&) = delete;
+    UnfinishedFile& operator=(const UnfinishedFile&) = delete;
+    const QString& name() const { return name_; }
+
+   private:
+    QString name_;
+};
+
 }  // namespace
 
 Importer::Importer(ImportOptions options, ReaderMaker maker, QTextStream& out,
@@ -124,27 +137,22 @@ void Importer::writeNew(const FoundStore& store, const QString& target) {
     }
     if (!QDir().mkpath(QFileInfo(target).path()))
         throw ReadError(QStringLiteral("the folder of %1 cannot be made").arg(target));
-    const QString half = target + QStringLiteral(".new");
-    QFile::remove(half);
+    const UnfinishedFile half(target + QStringLiteral(".new"));
     CopyReport report;
-    try {
-        SQLite::Database written(half.toStdString(), SQLite::OPEN_READWRITE | SQLite::OPEN_CREATE);
+    {
+        SQLite::Database written(half.name().toStdString(), SQLite::OPEN_READWRITE | SQLite::OPEN_CREATE);
         // Nobody sees the file before it is whole, and moving it to its place flushes it to the disk.
         written.exec("PRAGMA journal_mode=MEMORY; PRAGMA synchronous=OFF");
         report = copyInto(written, store);
-    } catch (...) {
-        QFile::remove(half);
-        throw;
     }
-    if ((!report.sound && !options_.salvage) || !verify(half, store, report)) {
-        QFile::remove(half);
-        tell(QStringLiteral(
-                 "%1: nothing was written, since a table of it did not come over whole; --salvage keeps what "
-                 "could be read.")
-                 .arg(store.shownName));
+    if ((report.sound || options_.salvage) && verify(half.name(), store, report)) {
+        place(store, half.name());
         return;
     }
-    place(store, half);
+    tell(QStringLiteral(
+             "%1: nothing was written, since a table of it did not come over whole; --salvage keeps what "
+             "could be read.")
+             .arg(store.shownName));
 }
 
 /// Reads the finished file once more, as the course will find it.

@@ -262,6 +262,13 @@ CopyReport copyStore(AccessReader& reader, const StoreSource& source, SQLite::Da
         }
         report.tables.push_back(proof);
     }
+    const bool ours =
+        std::any_of(report.tables.begin(), report.tables.end(), [](const TableProof& p) { return p.known; });
+    if (!ours && !source.schemaStore.isEmpty()) {
+        report.problems.append(
+            QStringLiteral("%1 holds no table that the course uses.").arg(source.shownName));
+        report.sound = false;
+    }
     createMissing(source, store, report);
     transaction.commit();
     return report;

@@ -86,7 +86,9 @@ class Installer {
         const int errors = check::errorCount(findings);
         if (errors == 0)
             return static_cast<int>(findings.size());
-        QString told = QStringLiteral("The course has %1 errors, and nothing was built.").arg(errors);
+        QString told = QStringLiteral("The course has %1 error%2, and nothing was built.")
+                           .arg(errors)
+                           .arg(errors == 1 ? QString() : QStringLiteral("s"));
         for (const check::Finding& finding : findings)
             if (finding.severity == check::Severity::Error)
                 told += u'\n' + finding.text();

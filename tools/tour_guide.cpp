@@ -58,11 +58,50 @@ core::Screen& TourGuide::await(const QString& name) {
     return screen();
 }
 
+QWidget& TourGuide::awaitWindow(const QString& name) {
+    QWidget* found = nullptr;
+    waitUntil(
+        [&] {
+            for (QWidget* window : QApplication::topLevelWidgets())
+                if (window->objectName() == name && window->isVisible())
+                    found = window;
+            return found != nullptr;
+        },
+        QStringLiteral("the window %1").arg(name));
+    return *found;
+}
+
 QWidget& TourGuide::control(const QString& name) const {
     auto* found = screen().findChild<QWidget*>(name);
     if (found == nullptr)
         lost(QStringLiteral("there is no control %1.").arg(name));
     return *found;
+}
+
+platform::Database TourGuide::open(const QString& drivePath) const {
+    return platform::Database::open(program_.drives().resolve(drivePath), drivePath);
+}
+
+void TourGuide::passWordsAndVideo(const QString& screen) {
+    const auto standing = [&](const char* name) {
+        const core::Screen* top = program_.screens().top();
+        return top != nullptr && top->objectName() == QLatin1String(name);
+    };
+    bool playerSeen = false;
+    waitUntil(
+        [&] {
+            for (const char* word : {"frmVoca2", "frmVoca3", "frmVoca4"})
+                if (standing(word) && firstTickDone(*program_.screens().top()))
+                    click(QStringLiteral("picNext"));
+            if (standing("frmVideo2")) {
+                playerSeen = true;
+                program_.screens().top()->close();
+            } else if (standing("frmVideo_2014") && playerSeen) {
+                click(QStringLiteral("picExit"));
+            }
+            return standing(screen.toLatin1().constData());
+        },
+        screen);
 }
 
 void TourGuide::hover(const QString& name) {

@@ -21,6 +21,8 @@ class TourGuide {
 
     /// Waits until a screen stands on top and has done its first tick.
     core::Screen& await(const QString& screen);
+    /// The same for a window that is no screen of the course, such as a report.
+    QWidget& awaitWindow(const QString& name);
     core::Screen& screen() const;
     /// The control of the standing screen by its name.
     QWidget& control(const QString& name) const;
@@ -28,6 +30,11 @@ class TourGuide {
     Control& as(const QString& name) const {
         return *dynamic_cast<Control*>(&control(name));
     }
+
+    /// Opens a store of the tour's install by its drive path.
+    platform::Database open(const QString& drivePath) const;
+    /// Leaves word exercises and video, should they come first, and waits for the screen behind them.
+    void passWordsAndVideo(const QString& screen);
 
     void hover(const QString& name);
     void click(const QString& name);

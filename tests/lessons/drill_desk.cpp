@@ -61,7 +61,8 @@ void DrillDesk::setRows(const std::vector<Row>& rows, int record) {
 void DrillDesk::setSecondList(int count) {
     std::string sql = "BEGIN; DELETE FROM basic_Data2;";
     for (int i = 1; i <= count; ++i)
-        sql += "INSERT INTO basic_Data2 (orderno2, word) VALUES (" + std::to_string(i) + ", 'prompt" + std::to_string(i) + "');";
+        sql += "INSERT INTO basic_Data2 (orderno2, word) VALUES (" + std::to_string(i) + ", 'prompt" +
+               std::to_string(i) + "');";
     exec(courseStore, sql + "COMMIT");
 }
 

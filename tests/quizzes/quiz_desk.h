@@ -28,9 +28,19 @@ class QuizDesk : public support::Desk {
     /// from step 20.
     void enterFinal(int stepNo, int stepCount);
 
+    /// Gives the course table the rows that it needs to open.
+    void layTable() {
+        exec(support::courseStore,
+             "Insert into topic (topicno, Title) values (1, '명사');"
+             "Insert into tablework (recordno, topicno, pageno, Type, Title, wordno, useform) "
+             "values (1, 1, 1, 'Lesson', '명사', 0, 'frmLesson')");
+    }
+
     QStringList column(const std::string& field) const;
     /// What the score store holds: "recordno|s4".
-    QStringList scores() const { return rows(support::scoreStore, "Select recordno, s4 from score"); }
+    QStringList scores() const {
+        return rows(support::scoreStore, "Select recordno, printf('%g', s4) from score");
+    }
 };
 
 inline void QuizDesk::layStep(int recordNo, const std::vector<Question>& questions,

@@ -1,4 +1,4 @@
-#include "import_fake.h"
+#include "tests/tools/import_fake.h"
 
 #include "tools/import_store.h"
 
@@ -191,6 +191,15 @@ TEST(StoreCopy, ListsOnlyTheFirstProblemsOfATable) {
     EXPECT_EQ(copy.report.problems.size(), 21);
     EXPECT_EQ(copy.report.problems.last(),
               QStringLiteral("D/tovalin.mdb, table newword: further problems are not listed."));
+}
+
+TEST(StoreCopy, OfAFileWithoutAnyTableOfTheCourseIsNoStore) {
+    FakeTable table = newWords();
+    table.shape.name = QStringLiteral("holidays");
+    Copy copy({table});
+    EXPECT_FALSE(copy.report.sound);
+    EXPECT_EQ(copy.report.problems,
+              QStringList{QStringLiteral("D/tovalin.mdb holds no table that the course uses.")});
 }
 
 TEST(StoreCopy, SurvivesNamesThatNoStoreCanHave) {

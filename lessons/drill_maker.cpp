@@ -1,4 +1,4 @@
-#include "lessons/lessons.h"
+#include "lessons/drill_maker.h"
 
 #include "lessons/answer_list_drill.h"
 #include "lessons/cloze_drill.h"
@@ -8,7 +8,7 @@
 
 namespace lessons {
 
-core::Screen* makeLesson(core::Context& context, const Drill& drill) {
+core::Screen* makeDrill(core::Context& context, const Drill& drill) {
     switch (drill.flow) {
         case Flow::Table: return new DrillScreen(context, drill);
         case Flow::AnswerList: return new AnswerListDrill(context, drill);

@@ -7,6 +7,6 @@
 namespace lessons {
 
 /// Makes the screen of a catalogue row.
-core::Screen* makeLesson(core::Context& context, const Drill& drill);
+core::Screen* makeDrill(core::Context& context, const Drill& drill);
 
 }  // namespace lessons
