@@ -11,6 +11,7 @@
 #include "vocabulary/spelling_coach.h"
 #include "vocabulary/word_matching.h"
 #include "vocabulary/word_quiz.h"
+#include "worksheets/worksheet_menu.h"
 
 namespace app {
 
@@ -40,6 +41,7 @@ ScreenMakers allScreens() {
     makers.insert(QStringLiteral("frmVoca2"), maker<vocabulary::SpellingCoach>());
     makers.insert(QStringLiteral("frmVoca3"), maker<vocabulary::WordMatching>());
     makers.insert(QStringLiteral("frmVoca4"), maker<vocabulary::WordQuiz>());
+    makers.insert(QStringLiteral("frmWorkSheet"), maker<worksheets::WorksheetMenu>());
     return makers;
 }
 

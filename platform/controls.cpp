@@ -76,14 +76,14 @@ QPainterPath markPath(BoxMark mark) {
     return path;
 }
 
-void paintBoxMark(QWidget& box, BoxMark mark) {
+void paintBoxMark(QWidget& box, BoxMark mark, QRgb ground = colour::white) {
     constexpr double signSpace = 24;
     const double scale = box.height() / signSpace;
     const bool wrong = mark == BoxMark::Wrong;
+    const QRgb sign = ground == colour::red ? colour::white : wrong ? colour::red : colour::accent;
     QPainter painter(&box);
     painter.setRenderHint(QPainter::Antialiasing);
-    painter.setPen(QPen(QColor::fromRgb(wrong ? colour::red : colour::accent), 2, Qt::SolidLine, Qt::RoundCap,
-                        Qt::RoundJoin));
+    painter.setPen(QPen(QColor::fromRgb(sign), 2, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
     painter.translate(box.width() - 11 * scale, box.height() / 2.0);
     painter.scale(scale, scale);
     painter.drawPath(markPath(mark));
@@ -281,8 +281,14 @@ void TextBox::mouseMoveEvent(QMouseEvent* event) {
 
 void TextBox::paintEvent(QPaintEvent* event) {
     QLineEdit::paintEvent(event);
+    // Red on a red ground: the colours stay as set, and the text can be read all the same.
+    if (foreColor() == backColor() && !text().isEmpty()) {
+        QPainter painter(this);
+        painter.setPen(QColor::fromRgb(colour::white));
+        painter.drawText(rect().marginsRemoved(textMargins()), Qt::AlignCenter, text());
+    }
     if (mark_ != BoxMark::None)
-        paintBoxMark(*this, mark_);
+        paintBoxMark(*this, mark_, backColor());
     if (hasFocus())
         paintFocusMark(*this);
 }

@@ -17,6 +17,8 @@ namespace {
 
 constexpr QRgb ground = 0xff12282b;
 constexpr int failureMargin = 32;
+// How long a first picture is waited for before the learner is told, in milliseconds.
+constexpr int firstPictureLimit = 6000;
 
 MediaCreateFunction mediaModule() {
     static const auto create = reinterpret_cast<MediaCreateFunction>(QLibrary::resolve(
@@ -54,6 +56,13 @@ MediaView::MediaView(std::function<QString(const QString&)> resolve, QWidget* pa
     palette.setColor(QPalette::WindowText, Qt::white);
     lblFailure_->setPalette(palette);
     lblFailure_->hide();
+    // The player does not always notice that nothing will ever come of a damaged file.
+    patience_.setSingleShot(true);
+    patience_.setInterval(firstPictureLimit);
+    connect(&patience_, &QTimer::timeout, this, [this] {
+        if (player_ && picture_.isNull() && !hasFailed())
+            showFailure(QStringLiteral("영상이 시작되지 않습니다: %1").arg(url_));
+    });
 }
 
 MediaView::~MediaView() = default;
@@ -61,8 +70,6 @@ MediaView::~MediaView() = default;
 void MediaView::setUrl(const QString& url) {
     stop();
     url_ = url;
-    failure_.clear();
-    lblFailure_->hide();
     // The window comes up first: the first start of the media libraries takes longer than painting it.
     QMetaObject::invokeMethod(
         this,
@@ -81,13 +88,22 @@ void MediaView::start() {
     }
     player_.reset(mediaModule()(file, *this));
     player_->setVolume(volume_);
+    patience_.start();
 }
 
 void MediaView::stop() {
+    patience_.stop();
     player_.reset();
     picture_ = QImage();
     url_.clear();
+    clearFailure();
     update();
+}
+
+void MediaView::clearFailure() {
+    failure_.clear();
+    lblFailure_->hide();
+    setAccessibleDescription(QString());
 }
 
 void MediaView::togglePlaying() {
@@ -123,6 +139,9 @@ qint64 MediaView::duration() const {
 }
 
 void MediaView::mediaFrame(const QImage& frame) {
+    // A picture may come late, off a slow drive.
+    if (hasFailed())
+        clearFailure();
     picture_ = frame;
     update();
 }

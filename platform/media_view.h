@@ -3,6 +3,7 @@
 #include "platform/media_interface.h"
 
 #include <QLabel>
+#include <QTimer>
 #include <QWidget>
 
 #include <functional>
@@ -52,12 +53,14 @@ class MediaView final : public QWidget, private MediaListener {
     void mediaProgressed() override;
     void mediaFailed(const QString& reason) override;
     void showFailure(const QString& reason);
+    void clearFailure();
 
     std::function<QString(const QString&)> resolve_;
     QString url_;
     QString failure_;
     QImage picture_;
     double volume_ = 1.0;
+    QTimer patience_;
     QLabel* lblFailure_;
     struct Retire {
         void operator()(MediaPlayer* player) const { player->retire(); }

@@ -87,8 +87,8 @@ int report(Checked checked, const QCommandLineParser& call, qint64 milliseconds)
             print(finding.text() + u'\n');
     const int errors = check::errorCount(findings);
     const int warnings = static_cast<int>(findings.size()) - errors;
-    std::printf("%d rows: %d errors, %d warnings (%lld ms)\n", checked.rows, errors, warnings,
-                static_cast<long long>(milliseconds));
+    std::printf("%d rows: %d error%s, %d warning%s (%lld ms)\n", checked.rows, errors, errors == 1 ? "" : "s",
+                warnings, warnings == 1 ? "" : "s", static_cast<long long>(milliseconds));
     return findings.empty() ? exitFine : exitFindings;
 }
 

@@ -147,6 +147,14 @@ void sheetChoices(const Course& course, Findings& findings) {
     });
 }
 
+void numberedGaps(const Course& course, Findings& findings) {
+    eachQuestion(course, {"frmQuiz3"}, [&](const Step&, const Question& question) {
+        if (!question.q[1].contains(QStringLiteral("(1)")) || !question.q[1].contains(QStringLiteral("(2)")))
+            findings.add(question.at("q1"), QStringLiteral("the sentence does not tell its two places apart"),
+                         QStringLiteral("(1) ____ and (2) ____ where the answers belong"));
+    });
+}
+
 constexpr std::array rules{
     Rule{"choice-answer", Severity::Error, "the right answer is one of the choices", answerAmong},
     Rule{"choice-missing", Severity::Error, "no choice before the last is empty", choiceMissing},
@@ -157,6 +165,8 @@ constexpr std::array rules{
          articleBefore},
     Rule{"choice-sheet", Severity::Warning, "choices that a worksheet prints in brackets are three",
          sheetChoices},
+    Rule{"choice-places", Severity::Warning, "a sentence with two answers numbers their places",
+         numberedGaps},
 };
 
 }  // namespace

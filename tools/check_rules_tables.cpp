@@ -2,6 +2,8 @@
 
 #include "tools/check.h"
 
+#include <algorithm>
+
 namespace tools::check {
 
 namespace {
@@ -90,10 +92,49 @@ void missingValues(const Course& course, Findings& findings) {
         need(line, "tip2", line.text);
 }
 
+bool isHidden(QChar c) {
+    const auto code = c.unicode();
+    return code < 0x20 || code == 0x7F || code == 0xA0 || (code >= 0x200B && code <= 0x200F) ||
+           code == 0xFEFF;
+}
+
+/// Characters that nobody sees spoil comparisons and break lines where a label has one.
+void hiddenCharacters(const Course& course, Findings& findings) {
+    const auto look = [&](const Row& row, const char* field, const QString& text) {
+        if (const auto found = std::find_if(text.begin(), text.end(), isHidden); found != text.end())
+            findings.add(row.at(field),
+                         QStringLiteral("the text holds a character that nobody sees (U+%1)")
+                             .arg(found->unicode(), 4, 16, QLatin1Char('0')),
+                         QStringLiteral("a plain blank, or nothing"));
+    };
+    constexpr std::array fields{"", "q1", "q2", "q3", "q4", "q5", "q6", "q7"};
+    for (const Question& question : course.questions) {
+        for (std::size_t i = 1; i < fields.size(); ++i)
+            look(question, fields[i], question.q[i]);
+        look(question, "a1", question.a1);
+        look(question, "a2", question.a2);
+    }
+    for (const DrillRow& row : course.drill) {
+        look(row, "word1", row.word[1]);
+        look(row, "word2", row.word[2]);
+    }
+    for (const Word& word : course.words) {
+        look(word, "word", word.word);
+        look(word, "korean", word.korean);
+    }
+    for (const Step& step : course.steps) {
+        look(step, "Title", step.title);
+        look(step, "Data", step.data);
+        look(step, "guide", step.guide);
+    }
+}
+
 constexpr std::array rules{
     Rule{"row-of-no-step", Severity::Error, "every row belongs to a step", rowsOfNoStep},
     Rule{"row-of-other-unit", Severity::Error, "a row lies under the unit of its step", rowsOfOtherUnit},
     Rule{"value-missing", Severity::Error, "no field that a screen reads is without a value", missingValues},
+    Rule{"text-hidden", Severity::Warning, "no text of one line holds a character that nobody sees",
+         hiddenCharacters},
 };
 
 }  // namespace

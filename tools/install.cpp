@@ -4,8 +4,6 @@
 #include "tools/check.h"
 #include "tools/course_source.h"
 #include "tools/store_writer.h"
-#include "tools/video_maker.h"
-#include "tools/video_texts.h"
 #include "tools/wave.h"
 
 #include <QCryptographicHash>
@@ -53,8 +51,7 @@ class Installer {
     explicit Installer(const InstallPlan& plan) : plan_(plan), root_(plan.root) {}
 
     void run() {
-        const CourseSource source = readCourse(plan_.courseFolder);
-        const BuiltCourse course(source);
+        const BuiltCourse course(readCourse(plan_.courseFolder));
         checkCourse(course);
         claimRoot();
         makeStores(course);
@@ -66,13 +63,10 @@ class Installer {
             speakWords(course.words().keys(), root_.filePath(QStringLiteral("D/A_Mendori/ABCSound")),
                        plan_.progress);
         writeMark(courseStamp());
-        if (plan_.makeVideos)
-            filmTips(source);
     }
 
     BuiltStores runStores() {
-        const CourseSource source = readCourse(plan_.courseFolder);
-        const BuiltCourse course(source);
+        const BuiltCourse course(readCourse(plan_.courseFolder));
         BuiltStores built;
         built.warnings = checkCourse(course);
         claimRoot();
@@ -92,7 +86,9 @@ class Installer {
         const int errors = check::errorCount(findings);
         if (errors == 0)
             return static_cast<int>(findings.size());
-        QString told = QStringLiteral("The course has %1 errors, and nothing was built.").arg(errors);
+        QString told = QStringLiteral("The course has %1 error%2, and nothing was built.")
+                           .arg(errors)
+                           .arg(errors == 1 ? QString() : QStringLiteral("s"));
         for (const check::Finding& finding : findings)
             if (finding.severity == check::Severity::Error)
                 told += u'\n' + finding.text();
@@ -221,18 +217,6 @@ class Installer {
         if (!plan_.reportFolder.isEmpty())
             copyFolder(plan_.reportFolder, QStringLiteral("*.rpt"),
                        QStringLiteral("C/Larkfield/Larkfield2013/Tovalin1"));
-    }
-
-    void filmTips(const CourseSource& source) const {
-        VideoPlan videos;
-        videos.folder = root_.filePath(QStringLiteral("D/A_Mendori/Mendori_Program/Tovalin1_Video"));
-        videos.progress = [this](const QString&, int done, int total) { tell(QStringLiteral("videos"), done, total); };
-        std::vector<VideoText> texts = videoTexts(source);
-        if (plan_.onlyVideo != 0)
-            std::erase_if(texts, [&](const VideoText& text) { return text.number != plan_.onlyVideo; });
-        const VideoReport report = makeVideos(texts, videos);
-        if (!report.failures.isEmpty())
-            refuse(report.failures.join(u'\n'));
     }
 
     const InstallPlan& plan_;

@@ -14,8 +14,6 @@ struct InstallPlan {
     QString reportFolder;    // report templates; empty for none
     QString userId;          // student number; empty makes no score store
     bool speakWords = true;  // have each word of the course spoken into a sound file
-    bool makeVideos = true;  // make the video lessons out of the tips; needs a QGuiApplication
-    int onlyVideo = 0;       // make this one alone; 0 for all
     /// Told what is being made, and how far: "stores", 3, 8.
     std::function<void(const QString& what, int done, int total)> progress;
 };

@@ -5,8 +5,8 @@
 #include "tools/install.h"
 
 #include <QCommandLineParser>
+#include <QCoreApplication>
 #include <QDir>
-#include <QGuiApplication>
 #include <QProcess>
 
 #include <unistd.h>
@@ -49,7 +49,6 @@ struct Options {
     QCommandLineOption teacher{QStringLiteral("teacher"), QStringLiteral("Log in as a teacher.")};
     QCommandLineOption guest{QStringLiteral("guest"),
                              QStringLiteral("Where nobody is logged in yet, log in as student 1001.")};
-    QCommandLineOption noVideos{QStringLiteral("no-videos"), QStringLiteral("Leave the video lessons unmade.")};
     QCommandLineOption silent{QStringLiteral("no-sounds"), QStringLiteral("Leave the words unspoken.")};
     QCommandLineOption noVideos{QStringLiteral("no-videos"), QStringLiteral("Make no video lessons.")};
 };
@@ -77,9 +76,7 @@ void makeVideos(const tools::InstallPlan& plan) {
 }  // namespace
 
 int main(int argc, char** argv) {
-    // Slides of the videos are drawn without a window, on machines without a desktop too.
-    qputenv("QT_QPA_PLATFORM", "offscreen");
-    const QGuiApplication app(argc, argv);
+    const QCoreApplication app(argc, argv);
     QCoreApplication::setApplicationName(QStringLiteral("setup"));
     const Options options;
     QCommandLineParser parser;
@@ -103,7 +100,6 @@ int main(int argc, char** argv) {
         newUser = QStringLiteral("1001");
     plan.userId = newUser.isEmpty() ? knownUser : newUser;
     plan.speakWords = !parser.isSet(options.silent);
-    plan.makeVideos = !parser.isSet(options.noVideos);
     plan.progress = showProgress;
     if (plan.userId.contains(u'\'') || plan.userId.contains(u'/') || plan.userId.contains(u'\\')) {
         std::fprintf(stderr, "A student number holds letters and digits, not '%s'.\n",

@@ -5,6 +5,8 @@
 #include "platform/look.h"
 #include "tools/install.h"
 #include "tools/tour_guide.h"
+#include "tools/video_maker.h"
+#include "tools/video_texts.h"
 
 #include <QCommandLineParser>
 #include <QFile>
@@ -29,6 +31,15 @@ void useOffscreenDesktop(const QString& folder) {
 void dropDesktopChatter(QtMsgType type, const QMessageLogContext&, const QString& text) {
     if (type == QtFatalMsg || type == QtCriticalMsg || !text.startsWith(QStringLiteral("This plugin does not support")))
         std::fprintf(stderr, "%s\n", qPrintable(text));
+}
+
+/// The tour plays the first video alone, so only that one is made.
+void makeFirstVideo(const tools::InstallPlan& plan) {
+    auto texts = tools::videoTexts(tools::readCourse(plan.courseFolder));
+    std::erase_if(texts, [](const tools::VideoText& text) { return text.number != 1; });
+    tools::VideoPlan video;
+    video.folder = plan.root + QStringLiteral("/D/A_Mendori/Mendori_Program/Tovalin1_Video");
+    tools::makeVideos(texts, video);
 }
 
 void walk(const QString& pictureFolder) {
@@ -78,9 +89,9 @@ int main(int argc, char** argv) {
     plan.reportFolder = QDir::cleanPath(parser.value(source) + QStringLiteral("/reports"));
     plan.userId = QStringLiteral("1001");
     plan.speakWords = false;
-    plan.onlyVideo = 1;
     try {
         tools::makeInstall(plan);
+        makeFirstVideo(plan);
         platform::UserSettings().write(QStringLiteral("Mendori"), QStringLiteral("General Information"),
                                        QStringLiteral("UserID"), plan.userId);
         platform::UserSettings().write(QStringLiteral("Mendori"), QStringLiteral("General Information"),

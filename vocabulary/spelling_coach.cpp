@@ -67,8 +67,6 @@ void SpellingCoach::speak() {
     core::PlaySound(context(), currentWord_, core::WordAndWait);
 }
 
-// Whole words -------------------------------------------------------------------------------------------
-
 void SpellingCoach::answerClicked() {
     if (txtWord_->text().isEmpty()) {
         context().boxes.notice(QStringLiteral("단어를 입력하세요"));
@@ -159,8 +157,6 @@ void SpellingCoach::finish() {
     cmdPractice_->hide();
     picNext().show();
 }
-
-// The list look-up ----------------------------------------------------------------------------------------
 
 void SpellingCoach::listClicked(const QListWidgetItem& item) {
     if (!lookupOpen_) {

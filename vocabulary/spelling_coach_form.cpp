@@ -142,6 +142,10 @@ void SpellingCoach::buildLookup() {
     lblDef_ = &addLabel(QStringLiteral("lblDef"), QRect(left + 396, 220, 300, 36), TextRole::Letter);
     lblDef_->hide();
     web1_ = new WordPlayer(context(), QStringLiteral("Web1"), this);
+    // These came with the form; nothing uses them.
+    new WordPlayer(context(), QStringLiteral("Web2"), this);
+    addLabel(QStringLiteral("lblWord"), QRect(left, 676, 200, 22), TextRole::Body).hide();
+    addPictureButton(QStringLiteral("Picture1"), QRect(700, 168, 140, 160), QStringLiteral("Picture")).hide();
 }
 
 }  // namespace vocabulary

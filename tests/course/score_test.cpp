@@ -26,7 +26,8 @@ void save(Desk& desk, int slot, int score) {
 }
 
 QString results(const Desk& desk, int recordNo) {
-    return desk.row(scoreStore, "select s1,s2,s3,s4,s5 from score where recordno=" + std::to_string(recordNo));
+    return desk.row(scoreStore,
+                    "select s1,s2,s3,s4,s5 from score where recordno=" + std::to_string(recordNo));
 }
 
 }  // namespace
@@ -97,10 +98,12 @@ TEST(SaveScore, ANewRowCarriesKeyTitlesAndReservedColumns) {
     Desk desk;
     takeStep(desk, 9, 0);
     save(desk, 4, 80);
-    EXPECT_EQ(desk.row(scoreStore,
-                       "select recordno,page2,datapage,lessontype,vtitle,s6,s7,S8,s9,s10,s11,s12,st1,st8,dayno,vDate,"
-                       "studentno,program,studentname,bookno from score"),
-              "9|9|3|Quiz|||||||||NO|NO|7|2026-03-14|1001|Tovalin1|김하늘|0");
+    EXPECT_EQ(
+        desk.row(
+            scoreStore,
+            "select recordno,page2,datapage,lessontype,vtitle,s6,s7,S8,s9,s10,s11,s12,st1,st8,dayno,vDate,"
+            "studentno,program,studentname,bookno from score"),
+        "9|9|3|Quiz|||||||||NO|NO|7|2026-03-14|1001|Tovalin1|김하늘|0");
 }
 
 TEST(SaveScore, TheWordPartOfAFinishedStepLeavesTheMainScoreAsItWas) {
@@ -135,7 +138,9 @@ TEST(SaveScore, InsideAFinalQuizTheResultLandsOnTheStepThatLaunchedIt) {
 TEST(SaveScore, EverySaveRenewsTheDateAndEmptiesTheTitle) {
     Desk desk;
     takeStep(desk, 45, 0, "Lesson");
-    desk.exec(scoreStore, "insert into score(recordno,studentno,program,vtitle,vDate,s4) values(45,'1001','Tovalin1','be동사 1','2025-01-01',100)");
+    desk.exec(scoreStore,
+              "insert into score(recordno,studentno,program,vtitle,vDate,s4) "
+              "values(45,'1001','Tovalin1','be동사 1','2025-01-01',100)");
     save(desk, 4, 100);
     EXPECT_EQ(desk.row(scoreStore, "select vtitle,vDate from score"), "|2026-03-14");
 }

@@ -108,3 +108,18 @@ TEST_F(PrepositionDrill, CompletesWithOnePressForATeacher) {
     EXPECT_EQ(row(scoreStore, "SELECT s4 FROM score").toDouble(), 100);
     EXPECT_EQ(boxes.shown.size(), 1U);
 }
+
+TEST_F(PrepositionDrill, KeepsAWrongWordReadableInTheBoxThatIsMarkedRed) {
+    open();
+    begin();
+    support::click(box(2));
+    answerAndCheck({2});
+    ASSERT_EQ(box(2).foreColor(), colour::red);
+    ASSERT_EQ(box(2).backColor(), colour::red);
+    const QImage shown = box(2).grab().toImage();
+    int white = 0;
+    for (int y = 4; y < shown.height() - 4; ++y)
+        for (int x = 20; x < shown.width() - 24; ++x)
+            white += shown.pixel(x, y) == colour::white ? 1 : 0;
+    EXPECT_GT(white, 20);
+}

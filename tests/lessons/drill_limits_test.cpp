@@ -30,7 +30,7 @@ std::vector<std::string> drillNames() {
 
 TEST_P(EveryDrill, EndsTheRunWithStepTableAndCountsWhereItHasTooManyRows) {
     if (drill_.rows == SetUse::Absent)
-        GTEST_SKIP();
+        return;
     const int room = lessons::boxTotal(*drill_.layout);
     DrillDesk desk(nameOf(drill_), DrillDesk::plainRows(room + 1));
     EXPECT_EQ(desk.open(), nullptr);
@@ -46,7 +46,7 @@ TEST_P(EveryDrill, EndsTheRunWithStepTableAndCountsWhereItHasTooManyRows) {
 
 TEST_P(EveryDrill, EndsTheRunWithStepTableAndCountsWhereItHasTooManyRules) {
     if (drill_.ruleLines == 0)
-        GTEST_SKIP();
+        return;
     DrillDesk desk(nameOf(drill_));
     desk.setRules(drill_.ruleLines + 1, desk.step());
     EXPECT_EQ(desk.open(), nullptr);

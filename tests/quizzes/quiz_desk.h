@@ -38,7 +38,9 @@ class QuizDesk : public support::Desk {
 
     QStringList column(const std::string& field) const;
     /// What the score store holds: "recordno|s4".
-    QStringList scores() const { return rows(support::scoreStore, "Select recordno, s4 from score"); }
+    QStringList scores() const {
+        return rows(support::scoreStore, "Select recordno, printf('%g', s4) from score");
+    }
 };
 
 inline void QuizDesk::layStep(int recordNo, const std::vector<Question>& questions,

@@ -33,11 +33,22 @@ class RecordingNavigator final : public core::Navigator {
     }
 };
 
-/// The context of a desk with another navigator.
-inline core::Context contextWith(Desk& desk, core::Navigator& navigator) {
+/// Calls back on each sound, while the screen stands as it does when the sound begins.
+class SoundHook final : public platform::SoundPlayer {
+   public:
+    std::function<void(const QString& file)> onPlay;
+    void play(const QString& file, bool) override {
+        if (onPlay)
+            onPlay(file);
+    }
+};
+
+/// The context of a desk with another navigator, or another sound player as well.
+inline core::Context contextWith(Desk& desk, core::Navigator& navigator,
+                                 platform::SoundPlayer* sound = nullptr) {
     const core::Context& context = desk.context();
     return {context.session, context.drives, context.settings,
-            context.clock,   context.random, context.sound,
+            context.clock,   context.random, sound == nullptr ? context.sound : *sound,
             context.boxes,   navigator,      context.applicationFolder,
             context.frame};
 }

@@ -6,22 +6,30 @@ using namespace check_cases;
 
 namespace {
 
-const Cases tableCases("CheckTables",
-                       {
-                           {"ARowOfNoStepIsAnError",
-                            "row-of-no-step",
-                            {steps("1,Quiz,frmQuiz\n"), words("1,cat,고양이\n9,dog,개\n,cow,소\n")},
-                            {at("newword", 3, "recordno"), at("newword", 4, "recordno")}},
-                           {"RowsOfTheSecondPageBelongToStep15",
-                            "row-of-no-step",
-                            {steps("15,Lesson,frmLesson2\n"), drill("16,cup,,\n")},
-                            {}},
-                           {"ARowUnderAnotherUnitIsNotFound",
-                            "row-of-other-unit",
-                            {steps("1,Quiz,frmQuiz\n"),
-                             {"unit02/tovalin1_quiz_data.csv", "recordno,q1,a1\n1,cat,cats\n"}},
-                            {QStringLiteral("unit02/tovalin1_quiz_data.csv:2, field 'topicno'")}},
-                       });
+const Cases tableCases(
+    "CheckTables",
+    {
+        {"ARowOfNoStepIsAnError",
+         "row-of-no-step",
+         {steps("1,Quiz,frmQuiz\n"), words("1,cat,고양이\n9,dog,개\n,cow,소\n")},
+         {at("newword", 3, "recordno"), at("newword", 4, "recordno")}},
+        {"RowsOfTheSecondPageBelongToStep15",
+         "row-of-no-step",
+         {steps("15,Lesson,frmLesson2\n"), drill("16,cup,,\n")},
+         {}},
+        {"ABlankThatIsNoneIsTold",
+         "text-hidden",
+         {steps("1,Quiz,frmQuiz\n"),
+          questions("q1,q2,a1",
+                    "1,a\xC2\xA0"
+                    "b,x,x\n1,a b,x,x\n1,a b,\"x\ny\",x\n"),
+          words("1,cat,고양이\xE2\x80\x8B\n")},
+         {at("tovalin1_quiz_data", 2, "q1"), at("tovalin1_quiz_data", 4, "q2"), at("newword", 2, "korean")}},
+        {"ARowUnderAnotherUnitIsNotFound",
+         "row-of-other-unit",
+         {steps("1,Quiz,frmQuiz\n"), {"unit02/tovalin1_quiz_data.csv", "recordno,q1,a1\n1,cat,cats\n"}},
+         {QStringLiteral("unit02/tovalin1_quiz_data.csv:2, field 'topicno'")}},
+    });
 
 const Cases stepCases(
     "CheckSteps",

@@ -50,12 +50,19 @@ TEST(Check, WithoutACollectorTheFirstDamageEndsTheReading) {
     EXPECT_THROW(BuiltCourse(readFiles({{"unit01/newword.csv", "recordno,word\none,cat\n"}})), SourceError);
 }
 
-TEST(Check, TheStarterCourseHasNoFindings) {
-    const CourseSource source = readCourse(QStringLiteral(MENDORI_SOURCE "/starter"));
-    const BuiltCourse built(source);
+void expectNoFindings(const char* folder) {
+    const BuiltCourse built(readCourse(QStringLiteral(MENDORI_SOURCE "/") + QLatin1String(folder)));
     const check::Course course(built.tables());
     for (const check::Finding& finding : check::checkCourse(course))
         ADD_FAILURE() << finding.text().toStdString();
+}
+
+TEST(Check, TheStarterCourseHasNoFindings) {
+    expectNoFindings("starter");
+}
+
+TEST(Check, TheExampleOfTheGuideHasNoFindings) {
+    expectNoFindings("docs/example-course");
 }
 
 /// A temporary install whose stores hold a small course.

@@ -265,6 +265,19 @@ TEST(WordMatching, AWordIsChosenAndMatchedFromTheKeyboardToo) {
     EXPECT_EQ(shownPairs(form), 2);
 }
 
+TEST(WordMatching, ALongMeaningIsSetSmallerRatherThanCut) {
+    const QString meaning =
+        QStringLiteral("자랑스러워하는, 자랑으로 여기는, 자존심이 강한, 당당하고 위풍이 있는 모양");
+    WordDesk desk({{"leaf", "나뭇잎"}, {"proud", meaning.toStdString()}});
+    QWidget* form = openMatching(desk);
+    choose(form, word(form, 0).caption() == QStringLiteral("proud") ? 0 : 1);
+    const Label& large = definition(form, rightPlace(form));
+    const Label& other = definition(form, 1 - rightPlace(form));
+    EXPECT_LT(large.font().pixelSize(), other.font().pixelSize());
+    EXPECT_LE(large.fontMetrics().boundingRect(large.contentsRect(), Qt::TextWordWrap, meaning).height(),
+              large.height());
+}
+
 TEST(WordMatching, NothingWaitsForAPairToFade) {
     WordDesk desk(manyWords(3));
     QWidget* form = openMatching(desk);

@@ -1,0 +1,146 @@
+// The subcommands of `course` as they are called: what they print, and how they end.
+
+#include "tools/build_command.h"
+#include "tools/check_command.h"
+#include "tools/install.h"
+
+#include <QDir>
+#include <QFile>
+#include <QTemporaryDir>
+
+#include <gtest/gtest.h>
+
+namespace {
+
+const QString example = QStringLiteral(MENDORI_SOURCE "/docs/example-course");
+
+struct Ending {
+    int status = 0;
+    std::string out;
+    std::string error;
+};
+
+Ending run(int (*command)(const QStringList&), const QStringList& arguments) {
+    testing::internal::CaptureStdout();
+    testing::internal::CaptureStderr();
+    Ending ending;
+    ending.status = command(arguments);
+    std::fflush(stdout);
+    ending.out = testing::internal::GetCapturedStdout();
+    ending.error = testing::internal::GetCapturedStderr();
+    return ending;
+}
+
+bool contains(const std::string& text, const char* part) {
+    return text.find(part) != std::string::npos;
+}
+
+/// A copy of the example course that a test may spoil.
+class CourseCommands : public testing::Test {
+   protected:
+    CourseCommands() {
+        QDir().mkpath(course + QStringLiteral("/unit01"));
+        for (const char* folder : {"", "/unit01"})
+            for (const QString& name :
+                 QDir(example + QLatin1String(folder)).entryList({QStringLiteral("*.csv")}))
+                QFile::copy(example + QLatin1String(folder) + u'/' + name,
+                            course + QLatin1String(folder) + u'/' + name);
+    }
+
+    void append(const char* table, const char* row) const {
+        QFile file(course + QLatin1String(table));
+        ASSERT_TRUE(file.open(QIODevice::Append));
+        file.write(row);
+    }
+
+    QTemporaryDir folder;
+    const QString course = folder.filePath(QStringLiteral("course"));
+    const QString root = folder.filePath(QStringLiteral("install"));
+};
+
+TEST_F(CourseCommands, CheckEndsWith0WhereNothingIsFound) {
+    const Ending ending = run(tools::runCheck, {course});
+    EXPECT_EQ(ending.status, 0);
+    EXPECT_TRUE(contains(ending.out, "33 rows: 0 errors, 0 warnings")) << ending.out;
+}
+
+TEST_F(CourseCommands, CheckEndsWith1AndTellsPlaceWrongAndRight) {
+    append("/unit01/newword.csv", "45,ox,황소\n");
+    const Ending ending = run(tools::runCheck, {course});
+    EXPECT_EQ(ending.status, 1);
+    EXPECT_TRUE(contains(ending.out, "unit01/newword.csv:12, field 'word': error: ")) << ending.out;
+    EXPECT_TRUE(contains(ending.out, "right: a word of 3 to 16 letters")) << ending.out;
+    EXPECT_TRUE(contains(ending.out, "1 error, 0 warnings")) << ending.out;
+}
+
+TEST_F(CourseCommands, CheckLeavesWarningsOutWhereErrorsAloneAreWanted) {
+    append("/unit01/newword.csv", "45,Seoul,서울\n");
+    EXPECT_EQ(run(tools::runCheck, {course}).status, 1);
+    EXPECT_EQ(run(tools::runCheck, {QStringLiteral("--errors-only"), course}).status, 0);
+}
+
+TEST_F(CourseCommands, CheckCountsFindingsByRule) {
+    append("/unit01/newword.csv", "45,ox,황소\n45,ax,도끼\n");
+    EXPECT_TRUE(contains(run(tools::runCheck, {QStringLiteral("--summary"), course}).out, "2 word-length"));
+}
+
+TEST_F(CourseCommands, CheckTellsATableThatCannotBeReadAndGoesOn) {
+    append("/unit01/newword.csv", "45,ox,황소\n");
+    append("/unit01/gram_tip2.csv", "recordno,tip2\n45\n");
+    const Ending ending = run(tools::runCheck, {course});
+    EXPECT_TRUE(contains(ending.out, "gram_tip2.csv:2: error: the row has 1 fields")) << ending.out;
+    EXPECT_TRUE(contains(ending.out, "newword.csv:12")) << ending.out;
+}
+
+TEST_F(CourseCommands, CheckListsItsRules) {
+    const Ending ending = run(tools::runCheck, {QStringLiteral("--rules")});
+    EXPECT_EQ(ending.status, 0);
+    EXPECT_TRUE(contains(ending.out, "walk-hole")) << ending.out;
+}
+
+TEST_F(CourseCommands, AWrongCallEndsWith2) {
+    EXPECT_EQ(run(tools::runCheck, {QStringLiteral("--nonsense")}).status, 2);
+    EXPECT_EQ(run(tools::runCheck, {course + QStringLiteral("/nowhere")}).status, 2);
+    EXPECT_EQ(run(tools::runCheck, {course, QStringLiteral("--root"), root}).status, 2);
+    EXPECT_EQ(run(tools::runBuild, {course}).status, 2);
+    EXPECT_TRUE(contains(run(tools::runBuild, {}).error, "course build --help"));
+}
+
+TEST_F(CourseCommands, HelpNamesTheCommandAsItIsCalled) {
+    for (const auto& [command, name] :
+         {std::pair(tools::runCheck, "Usage: course check [options] [folder]"),
+          std::pair(tools::runBuild, "Usage: course build [options] [folder]")}) {
+        const Ending ending = run(command, {QStringLiteral("--help")});
+        EXPECT_EQ(ending.status, 0);
+        EXPECT_TRUE(contains(ending.out, name)) << ending.out;
+    }
+}
+
+TEST_F(CourseCommands, BuildMakesStoresThatCheckFindsWhole) {
+    EXPECT_EQ(run(tools::runBuild, {QStringLiteral("--root"), root, course}).status, 0);
+    const Ending ending = run(tools::runCheck, {QStringLiteral("--root"), root});
+    EXPECT_TRUE(contains(ending.out, "0 errors")) << ending.out;
+    // Nothing has spoken the words, and the video was never made.
+    EXPECT_TRUE(contains(ending.out, "[word-sound]")) << ending.out;
+    EXPECT_TRUE(contains(ending.out, "[video-missing]")) << ending.out;
+}
+
+TEST_F(CourseCommands, ACourseWithAnErrorIsNotBuilt) {
+    append("/unit01/newword.csv", "45,ox,황소\n");
+    const Ending ending = run(tools::runBuild, {QStringLiteral("--root"), root, course});
+    EXPECT_EQ(ending.status, 1);
+    EXPECT_TRUE(contains(ending.error, "1 error, and nothing was built")) << ending.error;
+    EXPECT_FALSE(QFileInfo::exists(root));
+}
+
+TEST_F(CourseCommands, BuildLeavesForeignFoldersAlone) {
+    QDir().mkpath(root);
+    QFile file(root + QStringLiteral("/letter.txt"));
+    ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+    file.close();
+    EXPECT_EQ(run(tools::runBuild, {QStringLiteral("--root"), root, course}).status, 1);
+    EXPECT_EQ(QDir(root).entryList(QDir::AllEntries | QDir::NoDotAndDotDot),
+              QStringList{QStringLiteral("letter.txt")});
+}
+
+}  // namespace
