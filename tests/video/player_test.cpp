@@ -47,6 +47,7 @@ TEST_F(Player, PlaysAtOnceAndItsPictureCanBeGrabbed) {
 TEST_F(Player, SpacePausesAndPlaysOn) {
     playRealVideo(20.0);
     ASSERT_TRUE(reaches(MediaState::Playing));
+    ASSERT_TRUE(waitFor([&] { return view().position() > 0; }));
     press(Qt::Key_Space);
     ASSERT_TRUE(reaches(MediaState::Paused));
     const qint64 stopped = view().position();
