@@ -6,7 +6,7 @@ int main(int argc, char** argv) {
     platform::Application application(argc, argv);
     platform::setUpLook();
     app::Program program;
-    int status = 1;
+    int status = 0;
     application.guarded([&] {
         if (program.start())
             status = platform::Application::exec();

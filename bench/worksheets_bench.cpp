@@ -16,14 +16,17 @@ class LessonDesk {
    public:
     explicit LessonDesk(int lines) {
         installReports(desk);
-        desk.exec(support::sheetStore,
-                  "insert into topic values(3,'대명사'); insert into tablework(recordno,topicno,pageno,Type,Title,guide2,"
-                  "wordno,usedata) values(40,3,1,'Quiz','대명사','빈칸에 알맞은 재귀대명사를 쓰십시오.',0,'YES')");
+        desk.exec(
+            support::sheetStore,
+            "insert into topic values(3,'대명사'); insert into "
+            "tablework(recordno,topicno,pageno,Type,Title,guide2,"
+            "wordno,usedata) values(40,3,1,'Quiz','대명사','빈칸에 알맞은 재귀대명사를 쓰십시오.',0,'YES')");
         std::string questions;
         for (int i = 1; i <= lines; ++i) {
             const std::string n = std::to_string(i);
-            questions += "insert into tovalin1_quiz_data(topicno,recordno,orderno,q1,a1,a2,autono) values(3,40," + n +
-                         ",'She looked at ____ in the mirror, number " + n + ". (거울)','herself',''," + n + ");";
+            questions +=
+                "insert into tovalin1_quiz_data(topicno,recordno,orderno,q1,a1,a2,autono) values(3,40," + n +
+                ",'She looked at ____ in the mirror, number " + n + ". (거울)','herself',''," + n + ");";
         }
         desk.exec(support::masterStore, "begin;" + questions + "commit");
         desk.session.topicNo = 3;
@@ -31,7 +34,8 @@ class LessonDesk {
     }
 
     platform::ReportLayout layout() {
-        const auto report = platform::readReportTemplate(desk.context().drives, sheetFolder + QStringLiteral("gram4.rpt"));
+        const auto report =
+            platform::readReportTemplate(desk.context().drives, sheetFolder + QStringLiteral("gram4.rpt"));
         return platform::layOutReport(report, platform::readReportData(desk.context().drives, report));
     }
 

@@ -74,6 +74,11 @@ void writeVersion(const Context& context) {
     }
     rows.set(QStringLiteral("pVersion"), 1);
     rows.update();
+    // Older programs may have left further rows; one row for the program is what stays.
+    auto own = database.openRecordset(QStringLiteral("Select * From pversion where Program='Tovalin1'"));
+    for (own.moveNext(); !own.eof(); own.moveNext())
+        own.remove();
+    own.close();
     rows.close();
     database.close();
 }

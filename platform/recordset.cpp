@@ -321,6 +321,13 @@ void Recordset::insertRow() {
 }
 
 void Recordset::updateRow() {
+    // What already stands in the row is not written again: an unchanged row costs no flush to the disk.
+    fetch();
+    std::erase_if(pending_, [&](const auto& entry) {
+        return row_[static_cast<std::size_t>(entry.first)].content() == entry.second.content();
+    });
+    if (pending_.empty())
+        return;
     QStringList assignments;
     for (const auto& [index, value] : pending_)
         assignments.append(QStringLiteral("\"%1\"=?").arg(shape_->columns[index]));

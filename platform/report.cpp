@@ -18,14 +18,16 @@ void Report::setOutput(int output) {
 
 void Report::prepare() {
     if (file_.isEmpty())
-        throw RuntimeError(Fault::FileNotFound, QStringLiteral("Report file not found: no report was chosen."));
+        throw RuntimeError(Fault::FileNotFound,
+                           QStringLiteral("Report file not found: no report was chosen."));
     const ReportTemplate report = readReportTemplate(drives_, file_);
     prepared_ = layOutReport(report, readReportData(drives_, report));
 }
 
 void Report::start() {
     if (!prepared_)
-        throw RuntimeError(Fault::InvalidCall, QStringLiteral("A report was started before it was prepared."));
+        throw RuntimeError(Fault::InvalidCall,
+                           QStringLiteral("A report was started before it was prepared."));
     auto* window = new ReportPreview(std::move(*prepared_), boxes_, printers, owner_);
     prepared_.reset();
     window_ = window;

@@ -87,7 +87,8 @@ void addBank(ReportBlock& block, const ReportTemplate& report, const ReportData&
         const double cell = room / columns;
         const double middle = bankPadding + titleWidth + cell * (i % columns + 0.5);
         const double baseLine = top + millimetres(1.8) + pitch * (i / columns + 0.68);
-        addText(block, PieceRole::BankWord, middle - textWidth(words[i], style) / 2, baseLine, words[i], style);
+        addText(block, PieceRole::BankWord, middle - textWidth(words[i], style) / 2, baseLine, words[i],
+                style);
     }
     block.height = top + height + millimetres(3);
 }

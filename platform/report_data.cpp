@@ -108,14 +108,15 @@ ReportData readReportData(const Drives& drives, const ReportTemplate& report) {
     return data;
 }
 
-QString filledText(const ReportText& text, const ReportData& data, const ReportRow& row, const ReportRow& extra) {
+QString filledText(const ReportText& text, const ReportData& data, const ReportRow& row,
+                   const ReportRow& extra) {
     QString result;
     qsizetype done = 0;
     for (auto match = fieldPattern().globalMatch(text.text); match.hasNext();) {
         const auto found = match.next();
         const QString table = found.captured(1).toLower();
         const QString field = found.captured(2).toLower();
-        const ReportRow& source = !table.isEmpty() ? *data.single.constFind(table)
+        const ReportRow& source = !table.isEmpty()        ? *data.single.constFind(table)
                                   : extra.contains(field) ? extra
                                                           : row;
         const auto value = source.constFind(field);

@@ -81,8 +81,8 @@ FlowWord glued(std::vector<FlowWord>::const_iterator first, std::vector<FlowWord
 void joinTexts(FlowLine& line) {
     std::vector<FlowBit> joined;
     for (const FlowBit& bit : line.bits) {
-        const bool follows = !joined.empty() && joined.back().blank < 0 && bit.blank < 0 &&
-                             joined.back().style == bit.style;
+        const bool follows =
+            !joined.empty() && joined.back().blank < 0 && bit.blank < 0 && joined.back().style == bit.style;
         if (!follows) {
             joined.push_back(bit);
             continue;
@@ -125,7 +125,8 @@ bool FlowLine::hasBlank() const {
     return std::any_of(bits.begin(), bits.end(), [](const FlowBit& bit) { return bit.blank >= 0; });
 }
 
-std::vector<FlowWord> flowWords(const QString& text, const TextSizes& sizes, double blankWidth, int& firstBlank) {
+std::vector<FlowWord> flowWords(const QString& text, const TextSizes& sizes, double blankWidth,
+                                int& firstBlank) {
     std::vector<FlowWord> words;
     FlowWord word;
     const auto add = [&word](FlowBit bit) {
@@ -183,9 +184,8 @@ std::vector<FlowWord> keepBrackets(const std::vector<FlowWord>& words, double mo
     for (auto word = words.begin(); word != words.end(); ++word) {
         auto end = word + 1;
         if (word->bits.front().text.startsWith(u'(') && !word->bits.back().text.contains(u')')) {
-            const auto closing = std::find_if(end, words.end(), [](const FlowWord& w) {
-                return w.bits.back().text.contains(u')');
-            });
+            const auto closing = std::find_if(
+                end, words.end(), [](const FlowWord& w) { return w.bits.back().text.contains(u')'); });
             if (closing != words.end() && glued(word, closing + 1).width <= most)
                 end = closing + 1;
         }

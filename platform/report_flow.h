@@ -62,7 +62,8 @@ struct FlowLine {
 
 /// Cuts a text into words and blanks of a fixed width, which are numbered on from `firstBlank`. Wide spaces
 /// between words stay wide.
-std::vector<FlowWord> flowWords(const QString& text, const TextSizes& sizes, double blankWidth, int& firstBlank);
+std::vector<FlowWord> flowWords(const QString& text, const TextSizes& sizes, double blankWidth,
+                                int& firstBlank);
 /// The same for a text that has no blanks to write on.
 std::vector<FlowWord> flowWords(const QString& text, const TextSizes& sizes);
 /// A text that stays in one piece wherever it fits into a line.

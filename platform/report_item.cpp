@@ -26,7 +26,8 @@ constexpr double maskPitch = millimetres(3);
 
 const QString maskBox = QStringLiteral("□");
 
-std::vector<QString> filledTexts(const std::vector<ReportText>& texts, const ReportData& data, const ReportRow& row) {
+std::vector<QString> filledTexts(const std::vector<ReportText>& texts, const ReportData& data,
+                                 const ReportRow& row) {
     std::vector<QString> filled;
     for (const ReportText& text : texts)
         filled.push_back(filledText(text, data, row));
@@ -34,7 +35,8 @@ std::vector<QString> filledTexts(const std::vector<ReportText>& texts, const Rep
 }
 
 int presentCount(const std::vector<QString>& texts) {
-    return static_cast<int>(std::count_if(texts.begin(), texts.end(), [](const QString& t) { return !t.isEmpty(); }));
+    return static_cast<int>(
+        std::count_if(texts.begin(), texts.end(), [](const QString& t) { return !t.isEmpty(); }));
 }
 
 int blanksIn(const std::vector<QString>& prompts) {
@@ -87,9 +89,7 @@ class ItemWriter {
     }
 
    private:
-    double room() const {
-        return (linesBeside_ ? m_.lineLeft - lineGap : m_.width) - left_;
-    }
+    double room() const { return (linesBeside_ ? m_.lineLeft - lineGap : m_.width) - left_; }
     void noteBaseLine(double baseLine) {
         if (firstBaseLine_ == 0)
             firstBaseLine_ = baseLine;
@@ -99,7 +99,8 @@ class ItemWriter {
         if (content_.head.isEmpty())
             return;
         const double pitch = pointsOnPage(report_.sizes.korean) * 1.6;
-        for (const FlowLine& line : flowLines(flowWords(content_.head, textSizes(report_, true)), m_.width - left_)) {
+        for (const FlowLine& line :
+             flowLines(flowWords(content_.head, textSizes(report_, true)), m_.width - left_)) {
             const double baseLine = block_.height + pitch * 0.72;
             for (const FlowBit& bit : line.bits)
                 addText(block_, PieceRole::ItemHead, left_ + bit.left, baseLine, bit.text, bit.style);
@@ -113,7 +114,8 @@ class ItemWriter {
         int blank = 0;
         bool first = true;
         for (const QString& prompt : content_.prompts) {
-            auto words = keepBrackets(flowWords(prompt, textSizes(report_), m_.blankWidth, blank), room() / 2);
+            auto words =
+                keepBrackets(flowWords(prompt, textSizes(report_), m_.blankWidth, blank), room() / 2);
             if (first && presentCount(content_.choices) > 1)
                 appendChoices(words);
             writeFlow(flowLines(words, room()), first);
@@ -185,8 +187,8 @@ class ItemWriter {
         if (natural > width)
             style.points *= std::max(0.5, width / natural);
         const double used = textWidth(answer, style);
-        addText(block_, PieceRole::Answer, centred ? left + (width - used) / 2 : left + millimetres(2), baseLine,
-                answer, style);
+        addText(block_, PieceRole::Answer, centred ? left + (width - used) / 2 : left + millimetres(2),
+                baseLine, answer, style);
     }
 
     void writeMasks() {
@@ -219,7 +221,8 @@ class ItemWriter {
         maskLineOpen_ = true;
     }
 
-    /// A box under each letter, which the key writes into the box. One text stays on a line where it fits, else it breaks between words.
+    /// A box under each letter, which the key writes into the box. One text stays on a line where it fits,
+    /// else it breaks between words.
     void writeMask(const QString& word, const QString& mask) {
         const double end = m_.width;
         if (!maskLineOpen_ || (maskLeft_ > left_ && maskLeft_ + maskWidth(mask) > end))
@@ -335,14 +338,16 @@ ItemContent itemContent(const ReportTemplate& report, const ReportData& data, in
     return content;
 }
 
-ItemMeasures measureItems(const ReportTemplate& report, const std::vector<const ItemContent*>& items, double width) {
+ItemMeasures measureItems(const ReportTemplate& report, const std::vector<const ItemContent*>& items,
+                          double width) {
     ItemMeasures m;
     m.width = width;
     m.numberWidth = leastNumber;
     std::vector<const ItemContent*> onLines;
     double inBlank = 0;
     for (const ItemContent* item : items) {
-        m.numberWidth = std::max(m.numberWidth, textWidth(item->number, {report.sizes.number, true}) + numberGap);
+        m.numberWidth =
+            std::max(m.numberWidth, textWidth(item->number, {report.sizes.number, true}) + numberGap);
         const int blanks = blanksIn(item->prompts);
         if (blanks > 0)
             inBlank = std::max(inBlank, widestAnswer(report, answersForBlanks(item->answers, blanks)));
@@ -354,9 +359,10 @@ ItemMeasures measureItems(const ReportTemplate& report, const std::vector<const 
     m.blankWidth = std::clamp(inBlank * handwriting + answerPadding, least,
                               std::max(least, std::min(millimetres(report.blankMost), room * 0.6)));
     // A second answer that only some questions have is another way to say the first.
-    const bool twoEach = !onLines.empty() && std::all_of(onLines.begin(), onLines.end(), [](const ItemContent* item) {
-        return presentCount(item->answers) == 2;
-    });
+    const bool twoEach =
+        !onLines.empty() && std::all_of(onLines.begin(), onLines.end(), [](const ItemContent* item) {
+            return presentCount(item->answers) == 2;
+        });
     m.lines = twoEach ? 2 : 1;
     double onLine = 0;
     for (const ItemContent* item : onLines)
@@ -366,7 +372,8 @@ ItemMeasures measureItems(const ReportTemplate& report, const std::vector<const 
     return m;
 }
 
-ReportBlock itemBlock(const ReportTemplate& report, const ItemContent& content, const ItemMeasures& measures) {
+ReportBlock itemBlock(const ReportTemplate& report, const ItemContent& content,
+                      const ItemMeasures& measures) {
     return ItemWriter(report, content, measures).written();
 }
 

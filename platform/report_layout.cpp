@@ -33,7 +33,8 @@ int wholeNumber(const ReportRow& row, const QString& field) {
 int rangeOf(const ReportGroup& group, const ReportData& data, const ReportRow& row) {
     const int number = wholeNumber(row, group.of);
     for (std::size_t i = 0; i < data.ranges.size(); ++i)
-        if (number >= wholeNumber(data.ranges[i], group.from) && number <= wholeNumber(data.ranges[i], group.to))
+        if (number >= wholeNumber(data.ranges[i], group.from) &&
+            number <= wholeNumber(data.ranges[i], group.to))
             return static_cast<int>(i);
     return -1;
 }
@@ -51,7 +52,8 @@ std::vector<Group> groupRows(const ReportTemplate& report, const ReportData& dat
         const bool restarts = !report.group.restart.isEmpty() && number <= count;
         if (groups.empty() || range != known || restarts) {
             const ReportRow counted{{QStringLiteral("group"), QString::number(groups.size() + 1)}};
-            const ReportRow& fields = byRange && range >= 0 ? data.ranges[static_cast<std::size_t>(range)] : row;
+            const ReportRow& fields =
+                byRange && range >= 0 ? data.ranges[static_cast<std::size_t>(range)] : row;
             const bool named = !byRange || range >= 0;
             groups.push_back({named ? filledText(report.group.text, data, fields, counted) : QString(), {}});
         }

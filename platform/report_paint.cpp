@@ -64,8 +64,9 @@ void paintShape(QPainter& painter, const ReportPiece& piece, const Ink& ink) {
     else if (piece.role == PieceRole::MaskBox)
         painter.drawRect(piece.place);
     else
-        painter.drawLine(piece.place.bottomLeft(),
-                         piece.role == PieceRole::ColumnRule ? piece.place.topLeft() : piece.place.bottomRight());
+        painter.drawLine(piece.place.bottomLeft(), piece.role == PieceRole::ColumnRule
+                                                       ? piece.place.topLeft()
+                                                       : piece.place.bottomRight());
 }
 
 void paintPiece(QPainter& painter, const ReportPiece& piece) {

@@ -25,6 +25,7 @@ namespace platform {
 namespace {
 
 constexpr int sheetMargin = 18;
+constexpr int buttonPadding = 10;
 constexpr QRgb desk = 0xffdcd6c9;
 constexpr QRgb shade = 0x30000000;
 
@@ -33,6 +34,15 @@ QRect previewPlace() {
     QRect place(0, 0, std::min(screen.width(), 1000), screen.height() - std::min(40, screen.height() / 20));
     place.moveCenter(screen.center());
     return place;
+}
+
+/// The report's name as a file's: signs that no file may be named with become dashes.
+QString fileName(QString name) {
+    static const QString signs = QStringLiteral("/\\:*?\"<>|");
+    for (QChar& letter : name)
+        if (signs.contains(letter) || letter.category() == QChar::Other_Control)
+            letter = u'-';
+    return name.trimmed() + QStringLiteral(".pdf");
 }
 
 }  // namespace
@@ -102,7 +112,7 @@ QPushButton* ReportPreview::addButton(const char* name, const QString& caption, 
     button->setAccessibleName(caption);
     button->setToolTip(tip);
     button->setFont(roleFont(TextRole::Caption, 1.0));
-    button->setMinimumHeight(34);
+    button->setMinimumSize(button->sizeHint().width() + 2 * buttonPadding, 34);
     button->setAutoDefault(false);
     connect(button, &QPushButton::clicked, this, std::move(click));
     bar_->layout()->addWidget(button);
@@ -116,16 +126,19 @@ void ReportPreview::buildBar() {
     addButton("cmdPrint", QStringLiteral("Print"), QStringLiteral("Ctrl+P"), [this] { print(); });
     addButton("cmdSavePdf", QStringLiteral("Save as PDF"), QStringLiteral("Ctrl+S"), [this] { saveAsPdf(); });
     row->addStretch();
-    previous_ = addButton("cmdPrevious", QStringLiteral("Previous"), QStringLiteral("Page Up"), [this] { showPage(page_ - 1); });
+    previous_ = addButton("cmdPrevious", QStringLiteral("Previous"), QStringLiteral("Page Up"),
+                          [this] { showPage(page_ - 1); });
     pageLabel_ = new QLabel;
     pageLabel_->setObjectName(QStringLiteral("lblPage"));
     pageLabel_->setFont(roleFont(TextRole::Answer, 1.0));
     pageLabel_->setAlignment(Qt::AlignCenter);
     pageLabel_->setMinimumWidth(64);
     row->addWidget(pageLabel_);
-    next_ = addButton("cmdNext", QStringLiteral("Next"), QStringLiteral("Page Down"), [this] { showPage(page_ + 1); });
+    next_ = addButton("cmdNext", QStringLiteral("Next"), QStringLiteral("Page Down"),
+                      [this] { showPage(page_ + 1); });
     row->addStretch();
-    width_ = addButton("cmdWidth", QStringLiteral("Page width"), QStringLiteral("+  -"), [this] { setWide(!wide_); });
+    width_ = addButton("cmdWidth", QStringLiteral("Page width"), QStringLiteral("+  -"),
+                       [this] { setWide(!wide_); });
     addButton("cmdClose", QStringLiteral("Close"), QStringLiteral("Esc"), [this] { close(); });
 }
 
@@ -152,7 +165,8 @@ void ReportPreview::setWide(bool wide) {
 void ReportPreview::fitSheet() {
     const double ratio = layout_.pageArea.height() / layout_.pageArea.width();
     const QSize room = area_->maximumViewportSize();
-    const int full = room.width() - 2 * sheetMargin - (wide_ ? area_->verticalScrollBar()->sizeHint().width() : 0);
+    const int full =
+        room.width() - 2 * sheetMargin - (wide_ ? area_->verticalScrollBar()->sizeHint().width() : 0);
     const int whole = qRound((room.height() - 2 * sheetMargin) / ratio);
     const int width = std::max(60, wide_ ? full : std::min(full, whole));
     sheet_->resize(width + 2 * sheetMargin, qRound(width * ratio) + 2 * sheetMargin);
@@ -169,7 +183,9 @@ void ReportPreview::printOn(const PrintJob& job) {
     if (problem.isEmpty() && job.problem)
         problem = job.problem();
     if (!problem.isEmpty())
-        boxes_.notice(QStringLiteral("프린터에서 인쇄하지 못했습니다. 프린터를 확인한 후 다시 인쇄하십시오.\n\n") + problem);
+        boxes_.notice(
+            QStringLiteral("프린터에서 인쇄하지 못했습니다. 프린터를 확인한 후 다시 인쇄하십시오.\n\n") +
+            problem);
 }
 
 void ReportPreview::saveAsPdf() {
@@ -180,7 +196,7 @@ void ReportPreview::saveAsPdf() {
     dialog->setAttribute(Qt::WA_DeleteOnClose);
     dialog->setAcceptMode(QFileDialog::AcceptSave);
     dialog->setDefaultSuffix(QStringLiteral("pdf"));
-    dialog->selectFile(layout_.name + QStringLiteral(".pdf"));
+    dialog->selectFile(fileName(layout_.name));
     connect(dialog, &QFileDialog::fileSelected, this, &ReportPreview::savePdf);
     dialog->open();
 }

@@ -62,7 +62,8 @@ class ReportPreview final : public QWidget {
 
    private:
     void buildBar();
-    QPushButton* addButton(const char* name, const QString& caption, const QString& tip, std::function<void()> click);
+    QPushButton* addButton(const char* name, const QString& caption, const QString& tip,
+                           std::function<void()> click);
     void fitSheet();
     void printOn(const PrintJob& job);
     void savePdf(const QString& file);

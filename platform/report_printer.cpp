@@ -18,7 +18,8 @@ void choosePrinter(QWidget* owner, const ReportLayout& layout, std::function<voi
     dialog->setFromTo(1, count);
     QObject::connect(dialog, qOverload<QPrinter*>(&QPrintDialog::accepted), owner,
                      [printer, count, chosen = std::move(chosen)](QPrinter*) {
-                         const bool range = printer->printRange() == QPrinter::PageRange && printer->fromPage() > 0;
+                         const bool range =
+                             printer->printRange() == QPrinter::PageRange && printer->fromPage() > 0;
                          const int first = range ? printer->fromPage() - 1 : 0;
                          const int last = range ? std::min(printer->toPage(), count) - 1 : count - 1;
                          chosen({printer, first, last, [printer] {

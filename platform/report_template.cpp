@@ -237,7 +237,8 @@ toml::table parse(const QByteArray& content, const QString& path) {
     try {
         return toml::parse(std::string_view(content.constData(), static_cast<std::size_t>(content.size())));
     } catch (const toml::parse_error& failure) {
-        throwBrokenReport(path, static_cast<int>(failure.source().begin.line), fromToml(failure.description()));
+        throwBrokenReport(path, static_cast<int>(failure.source().begin.line),
+                          fromToml(failure.description()));
     }
 }
 
@@ -264,8 +265,9 @@ void readInto(const Drives& drives, const QString& path, ReportTemplate& report,
 }  // namespace
 
 void throwBrokenReport(const QString& file, int line, const QString& reason) {
-    throw RuntimeError(Fault::SyntaxError,
-                       QStringLiteral("The report '%1' is broken in line %2: %3").arg(file).arg(line).arg(reason));
+    throw RuntimeError(
+        Fault::SyntaxError,
+        QStringLiteral("The report '%1' is broken in line %2: %3").arg(file).arg(line).arg(reason));
 }
 
 ReportTemplate readReportTemplate(const Drives& drives, const QString& path) {

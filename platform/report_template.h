@@ -33,7 +33,8 @@ struct ReportItem {
     ReportText number;                // the running number where it is empty
     ReportText head;                  // a line above
     std::vector<ReportText> prompts;  // a line each; runs of "_" are blanks to write on
-    std::vector<ReportText> choices;  // behind the first prompt in brackets; a single one is a line of its own
+    std::vector<ReportText>
+        choices;  // behind the first prompt in brackets; a single one is a line of its own
     std::vector<ReportText> answers;  // what the key writes into the blanks
     std::vector<ReportText> words;    // what the key writes into the boxes
     std::vector<ReportText> masks;    // a box for each "□"

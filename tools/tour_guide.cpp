@@ -58,6 +58,19 @@ core::Screen& TourGuide::await(const QString& name) {
     return screen();
 }
 
+QWidget& TourGuide::awaitWindow(const QString& name) {
+    QWidget* found = nullptr;
+    waitUntil(
+        [&] {
+            for (QWidget* window : QApplication::topLevelWidgets())
+                if (window->objectName() == name && window->isVisible())
+                    found = window;
+            return found != nullptr;
+        },
+        QStringLiteral("the window %1").arg(name));
+    return *found;
+}
+
 QWidget& TourGuide::control(const QString& name) const {
     auto* found = screen().findChild<QWidget*>(name);
     if (found == nullptr)

@@ -21,6 +21,8 @@ class TourGuide {
 
     /// Waits until a screen stands on top and has done its first tick.
     core::Screen& await(const QString& screen);
+    /// The same for a window that is no screen of the course, such as a report.
+    QWidget& awaitWindow(const QString& name);
     core::Screen& screen() const;
     /// The control of the standing screen by its name.
     QWidget& control(const QString& name) const;

@@ -217,6 +217,19 @@ void seeVideosAndSheets(TourGuide& guide) {
     guide.picture(QStringLiteral("video-menu"));
     guide.click(QStringLiteral("picExit"));
     guide.await(QStringLiteral("frmTable"));
+    guide.click(QStringLiteral("picRepeat"));
+    guide.await(QStringLiteral("frmWorkSheet"));
+    guide.picture(QStringLiteral("worksheet-menu"));
+    guide.click(QStringLiteral("lblTopic"), 0);
+    for (const int lesson : {1, 2, 15, 17}) {
+        guide.click(QStringLiteral("lblLessonNo"), lesson - 1);
+        QWidget& sheet = guide.awaitWindow(QStringLiteral("frmReport"));
+        guide.picture(QStringLiteral("worksheet-of-lesson-%1").arg(lesson));
+        sheet.close();
+        QCoreApplication::processEvents();
+    }
+    guide.click(QStringLiteral("picExit"));
+    guide.await(QStringLiteral("frmTable"));
 }
 
 }  // namespace

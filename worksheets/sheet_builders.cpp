@@ -29,9 +29,8 @@ struct FieldPair {
 
 void setFields(Recordset& target, const Recordset& source, std::span<const FieldPair> fields) {
     for (const FieldPair& field : fields)
-        target.set(QLatin1String(field.target), field.source == nullptr
-                                                    ? Value(QString())
-                                                    : source.value(QLatin1String(field.source)));
+        target.set(QLatin1String(field.target),
+                   field.source == nullptr ? Value(QString()) : source.value(QLatin1String(field.source)));
 }
 
 /// Adds a line for each question, its fields as told, and counts the lines.
@@ -47,20 +46,24 @@ void buildColumns(const Database& course, std::span<const FieldPair> fields) {
     }
 }
 
-constexpr std::array threeColumns{FieldPair{"word1", "q1"}, FieldPair{"word2", "q2"}, FieldPair{"word3", "q3"},
-                                  FieldPair{"word4", "a1"}, FieldPair{"word5", "a2"}};
-constexpr std::array twoColumns{FieldPair{"word1", "q1"}, FieldPair{"word2", "q2"}, FieldPair{"word3", nullptr},
-                                FieldPair{"word4", "a1"}, FieldPair{"word5", "a2"}};
-constexpr std::array oneColumn{FieldPair{"word1", "q1"}, FieldPair{"word2", nullptr}, FieldPair{"word3", nullptr},
-                               FieldPair{"word4", "a1"}, FieldPair{"word5", "a2"}};
+constexpr std::array threeColumns{FieldPair{"word1", "q1"}, FieldPair{"word2", "q2"},
+                                  FieldPair{"word3", "q3"}, FieldPair{"word4", "a1"},
+                                  FieldPair{"word5", "a2"}};
+constexpr std::array twoColumns{FieldPair{"word1", "q1"}, FieldPair{"word2", "q2"},
+                                FieldPair{"word3", nullptr}, FieldPair{"word4", "a1"},
+                                FieldPair{"word5", "a2"}};
+constexpr std::array oneColumn{FieldPair{"word1", "q1"}, FieldPair{"word2", nullptr},
+                               FieldPair{"word3", nullptr}, FieldPair{"word4", "a1"},
+                               FieldPair{"word5", "a2"}};
 constexpr std::array swappedColumns{FieldPair{"word1", "q2"}, FieldPair{"word2", "q1"},
                                     FieldPair{"word3", nullptr}, FieldPair{"word4", "a1"},
                                     FieldPair{"word5", "a2"}};
 
 /// Two source rows share one line, so that the sheet has two columns.
 void buildTwoUp(const Database& course, const QString& source, const char* question, const char* answer) {
-    const std::array left{FieldPair{"word1", question}, FieldPair{"word2", answer}, FieldPair{"word3", nullptr},
-                          FieldPair{"word4", nullptr}, FieldPair{"word5", nullptr}};
+    const std::array left{FieldPair{"word1", question}, FieldPair{"word2", answer},
+                          FieldPair{"word3", nullptr}, FieldPair{"word4", nullptr},
+                          FieldPair{"word5", nullptr}};
     const std::array right{FieldPair{"word3", question}, FieldPair{"word4", answer}};
     Recordset lines = course.openRecordset(allLines);
     Int16 pairSlot = 1;
@@ -109,8 +112,10 @@ void numberQuestions(const Database& course) {
 
 void buildMasks(const Database& course, int topicNo, int recordNo) {
     Recordset lines = course.openRecordset(allLines);
-    Recordset rows = course.openRecordset(
-        QStringLiteral("Select * from basic_data3 where topicno=%1 and recordno=%2").arg(topicNo).arg(recordNo));
+    Recordset rows =
+        course.openRecordset(QStringLiteral("Select * from basic_data3 where topicno=%1 and recordno=%2")
+                                 .arg(topicNo)
+                                 .arg(recordNo));
     Int16 lineNo = 1;
     for (; !rows.eof(); rows.moveNext()) {
         lines.addNew();
@@ -165,16 +170,16 @@ void buildWordBank(const Database& course) {
 }
 
 void buildBrackets(const Database& course) {
-    constexpr std::array fields{FieldPair{"word2", "q1"}, FieldPair{"word3", nullptr}, FieldPair{"word4", "a1"},
-                                FieldPair{"word5", "a2"}};
+    constexpr std::array fields{FieldPair{"word2", "q1"}, FieldPair{"word3", nullptr},
+                                FieldPair{"word4", "a1"}, FieldPair{"word5", "a2"}};
     Recordset lines = course.openRecordset(allLines);
     Int16 lineNo = 1;
     for (Recordset questions = course.openRecordset(allQuestions); !questions.eof(); questions.moveNext()) {
         lines.addNew();
         setFields(lines, questions, fields);
-        lines.set(QStringLiteral("word1"), bracketedChoices(questions.text(QStringLiteral("q2")),
-                                                            questions.text(QStringLiteral("q3")),
-                                                            questions.textOrEmpty(QStringLiteral("q4"))));
+        lines.set(QStringLiteral("word1"),
+                  bracketedChoices(questions.text(QStringLiteral("q2")), questions.text(QStringLiteral("q3")),
+                                   questions.textOrEmpty(QStringLiteral("q4"))));
         lines.set(QStringLiteral("orderno"), lineNo);
         lines.update();
         ++lineNo;
@@ -189,10 +194,10 @@ bool hasSecondLine(int firstStep) {
 
 void addFinalLines(const Database& course, const Recordset& range, Recordset& lines, Int16& lineNo) {
     const int first = range.integer(QStringLiteral("recordno"));
-    Recordset questions = course.openRecordset(
-        allQuestions + QStringLiteral(" where recordno>=%1 and recordno <=%2")
-                           .arg(first)
-                           .arg(range.integer(QStringLiteral("recordno2"))));
+    Recordset questions =
+        course.openRecordset(allQuestions + QStringLiteral(" where recordno>=%1 and recordno <=%2")
+                                                .arg(first)
+                                                .arg(range.integer(QStringLiteral("recordno2"))));
     for (; !questions.eof(); questions.moveNext()) {
         lines.addNew();
         lines.set(QStringLiteral("word1"), questions.value(QStringLiteral("q1")));

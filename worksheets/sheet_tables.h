@@ -8,18 +8,18 @@ namespace worksheets {
 
 /// How a lesson's content is laid into the report tables.
 enum class Builder {
-    None,           // the template reads the quiz rows as they are, or nothing is known of the number
-    TwoUpDrill,     // two rows of the drill on a line
-    TwoUpQuiz,      // two rows of the quiz on a line
-    Numbering,      // the quiz rows are counted, anew from step 8 on
-    SentenceMasks,  // sentences with a box for each letter
-    ThreeColumns,   // q1, q2, q3
-    TwoColumns,     // q1, q2
-    OneColumn,      // q1
-    SwappedColumns, // q2, q1
-    WordBank,       // the distinct answers, then q1
-    Brackets,       // choices in brackets, then q1
-    Final,          // the drawn questions of a list of steps
+    None,            // the template reads the quiz rows as they are, or nothing is known of the number
+    TwoUpDrill,      // two rows of the drill on a line
+    TwoUpQuiz,       // two rows of the quiz on a line
+    Numbering,       // the quiz rows are counted, anew from step 8 on
+    SentenceMasks,   // sentences with a box for each letter
+    ThreeColumns,    // q1, q2, q3
+    TwoColumns,      // q1, q2
+    OneColumn,       // q1
+    SwappedColumns,  // q2, q1
+    WordBank,        // the distinct answers, then q1
+    Brackets,        // choices in brackets, then q1
+    Final,           // the drawn questions of a list of steps
 };
 
 /// The builder of a step.

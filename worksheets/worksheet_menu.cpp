@@ -30,7 +30,8 @@ QString fromView(std::string_view text) {
 
 }  // namespace
 
-WorksheetMenu::WorksheetMenu(core::Context& context) : Screen(context, QStringLiteral("frmWorkSheet"), menuSize) {
+WorksheetMenu::WorksheetMenu(core::Context& context)
+    : Screen(context, QStringLiteral("frmWorkSheet"), menuSize) {
     setAccessibleName(QStringLiteral("Worksheets"));
     hoverArmed_ = 1;
     hoverLit_ = 1;
@@ -45,8 +46,10 @@ WorksheetMenu::WorksheetMenu(core::Context& context) : Screen(context, QStringLi
 void WorksheetMenu::buildHeader() {
     addLabel(QStringLiteral("lblBookTitle"), QRect(64, 12, 400, 36), TextRole::Title,
              QStringLiteral("Grammar WorkSheet"));
-    addLabel(QStringLiteral("Label2"), QRect(24, 65, 902, 21), TextRole::Body,
-             QStringLiteral("아래의 번호를 클릭하면 해당 레슨의 WorkSheet가 출력됩니다. (빨간 색은 제공되지 않습니다.)"));
+    addLabel(
+        QStringLiteral("Label2"), QRect(24, 65, 902, 21), TextRole::Body,
+        QStringLiteral(
+            "아래의 번호를 클릭하면 해당 레슨의 WorkSheet가 출력됩니다. (빨간 색은 제공되지 않습니다.)"));
     addLabel(QStringLiteral("Label4"), QRect(24, 87, 902, 21), TextRole::Body,
              QStringLiteral("<Final>인 경우에는 랜덤으로 데이타가 선정되어 매번 출력문이 다릅니다."));
     picExit_ = &addPictureButton(QStringLiteral("picExit"), QRect(832, 10, 100, 40), QStringLiteral("Back"));
@@ -66,7 +69,8 @@ void WorksheetMenu::buildTopics() {
 
 void WorksheetMenu::buildLessons() {
     lblTopic2_ = &addLabel(QStringLiteral("lblTopic2"), QRect(356, 124, 550, 28), TextRole::Heading);
-    addLabel(QStringLiteral("Label1"), QRect(356, 162, 200, 20), TextRole::Caption, QStringLiteral("Unit No"));
+    addLabel(QStringLiteral("Label1"), QRect(356, 162, 200, 20), TextRole::Caption,
+             QStringLiteral("Unit No"));
     for (int i = 0; i < lessonCount; ++i) {
         const QPoint place(356 + i % lessonColumns * lessonPitch.width(),
                            194 + i / lessonColumns * lessonPitch.height());
@@ -156,8 +160,9 @@ bool WorksheetMenu::fillTables(int recordNo, int pageNo, const QString& guide) {
     batch.commit();
     if (result == BuildResult::Built)
         return true;
-    context().boxes.notice(QStringLiteral("데이타 오류입니다.  Tovalin 프로그램을 재설치하십시오.\n"
-                                          "재설치후 같은 오류인 경우에는 본사로 연락하십시오."));
+    context().boxes.notice(
+        QStringLiteral("데이타 오류입니다.  Tovalin 프로그램을 재설치하십시오.\n"
+                       "재설치후 같은 오류인 경우에는 본사로 연락하십시오."));
     return false;
 }
 

@@ -18,8 +18,8 @@ int main(int argc, char** argv) {
     const int rounds = std::atoi(argv[4]);
     core::Session session;
     const platform::Drives drives{QString::fromLocal8Bit(argv[1])};
-    const support::FakeSettings settings;
-    const support::FakeClock clock;
+    const support::FakeSettings settings{};
+    const support::FakeClock clock{};
     support::FakeRandom random;
     support::SoundList sound;
     support::MessageList boxes;

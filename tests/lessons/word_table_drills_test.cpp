@@ -99,7 +99,7 @@ TEST(IrregularPastDrill, GoesOnWithNoQuestionInAReview) {
     DrillDesk desk(QStringLiteral("frmLesson18_2"));
     desk.exec(courseStore,
               "INSERT INTO tablework (recordno, topicno, pageno, Type, Title, wordno, useform) VALUES "
-              "(77, 1, 3, 'Quiz', 'x', 0, 'none')");
+              "(77, 1, 3, 'Quiz', 'x', 0, 'none'), (999, 1, 4, 'Quiz', 'y', 0, 'none')");
     desk.session.reviewMode = QStringLiteral("YES");
     desk.session.reviewRecordNo = 77;
     desk.open();

@@ -26,20 +26,25 @@ TEST(ReportAnswers, TwoAnswersFillTwoBlanks) {
 }
 
 TEST(ReportAnswers, OneAnswerIsSpreadWordByWord) {
-    EXPECT_EQ(answersForBlanks({QStringLiteral("am not"), {}}, 2), (Texts{QStringLiteral("am"), QStringLiteral("not")}));
+    EXPECT_EQ(answersForBlanks({QStringLiteral("am not"), {}}, 2),
+              (Texts{QStringLiteral("am"), QStringLiteral("not")}));
     EXPECT_EQ(answersForBlanks({QStringLiteral("does not eat up")}, 3),
               (Texts{QStringLiteral("does"), QStringLiteral("not"), QStringLiteral("eat up")}));
     EXPECT_EQ(answersForBlanks({QStringLiteral("good")}, 2), (Texts{QStringLiteral("good"), QString()}));
 }
 
 TEST(ReportAnswers, ASecondAnswerForOneBlankIsAnotherWayToSayIt) {
-    EXPECT_EQ(answersForBlanks({QStringLiteral("been"), QStringLiteral("gone")}, 1), Texts{QStringLiteral("been / gone")});
-    EXPECT_EQ(answersForBlanks({QStringLiteral("will go"), QStringLiteral(" ")}, 1), Texts{QStringLiteral("will go")});
-    EXPECT_EQ(answersForLines({QStringLiteral("gone"), QStringLiteral("been")}, 1), Texts{QStringLiteral("gone / been")});
+    EXPECT_EQ(answersForBlanks({QStringLiteral("been"), QStringLiteral("gone")}, 1),
+              Texts{QStringLiteral("been / gone")});
+    EXPECT_EQ(answersForBlanks({QStringLiteral("will go"), QStringLiteral(" ")}, 1),
+              Texts{QStringLiteral("will go")});
+    EXPECT_EQ(answersForLines({QStringLiteral("gone"), QStringLiteral("been")}, 1),
+              Texts{QStringLiteral("gone / been")});
 }
 
 TEST(ReportAnswers, TwoLinesTakeAnAnswerEach) {
-    EXPECT_EQ(answersForLines({QStringLiteral("my"), QStringLiteral("me")}, 2), (Texts{QStringLiteral("my"), QStringLiteral("me")}));
+    EXPECT_EQ(answersForLines({QStringLiteral("my"), QStringLiteral("me")}, 2),
+              (Texts{QStringLiteral("my"), QStringLiteral("me")}));
     EXPECT_EQ(answersForLines({QStringLiteral("my"), {}}, 2), (Texts{QStringLiteral("my"), QString()}));
 }
 
@@ -50,7 +55,8 @@ TEST(ReportAnswers, NoAnswerLeavesAllBlanksEmpty) {
 
 TEST(ReportFlow, LinesNeverPassTheWidthAndKeepEveryWord) {
     const platform::TextSizes sizes{12, 12, false};
-    const QString text = QStringLiteral("우리말과 English words, one after another, until the line is full ____ and more");
+    const QString text =
+        QStringLiteral("우리말과 English words, one after another, until the line is full ____ and more");
     int blank = 0;
     const auto lines = platform::flowLines(platform::flowWords(text, sizes, platform::millimetres(20), blank),
                                            platform::millimetres(45));
@@ -66,21 +72,24 @@ TEST(ReportFlow, LinesNeverPassTheWidthAndKeepEveryWord) {
 }
 
 TEST(ReportFlow, AWordWiderThanTheLineIsCutBetweenLetters) {
-    const auto lines = platform::flowLines(platform::flowWords(QString(80, u'w'), {12, 12, false}), platform::millimetres(30));
+    const auto lines = platform::flowLines(platform::flowWords(QString(80, u'w'), {12, 12, false}),
+                                           platform::millimetres(30));
     EXPECT_GT(lines.size(), 3U);
     for (const auto& line : lines)
         EXPECT_LE(line.width, platform::millimetres(30) + 1);
 }
 
 TEST(ReportFlow, WideSpacesStayWide) {
-    const auto lines = platform::flowLines(platform::flowWords(QStringLiteral("( a    b   c )"), {12, 12, false}), 1e6);
+    const auto lines =
+        platform::flowLines(platform::flowWords(QStringLiteral("( a    b   c )"), {12, 12, false}), 1e6);
     ASSERT_EQ(lines.size(), 1U);
     ASSERT_EQ(lines[0].bits.size(), 1U);
     EXPECT_EQ(lines[0].bits[0].text, QStringLiteral("( a    b   c )"));
 }
 
 TEST(ReportFlow, AHintInBracketsStaysTogether) {
-    const auto words = platform::keepBrackets(platform::flowWords(QStringLiteral("a (two words) b (open"), {12, 12, false}), 1e6);
+    const auto words = platform::keepBrackets(
+        platform::flowWords(QStringLiteral("a (two words) b (open"), {12, 12, false}), 1e6);
     ASSERT_EQ(words.size(), 4U);
     EXPECT_EQ(words[1].bits.size(), 2U);
 }

@@ -91,8 +91,9 @@ TEST(ReportLayout, HeadsRepeatAndPagesAreNumbered) {
 }
 
 TEST(ReportLayout, RowsStayWholeAndNothingLeavesThePage) {
-    auto data = questions(80, QStringLiteral("A sentence of many words that goes on and on ____ until it needs more "
-                                             "than a single line of the page, and then some."));
+    auto data =
+        questions(80, QStringLiteral("A sentence of many words that goes on and on ____ until it needs more "
+                                     "than a single line of the page, and then some."));
     const auto layout = layOutReport(oneColumn(), data);
     for (const auto& [row, pages] : pagesOfRows(layout))
         EXPECT_EQ(pages.size(), 1U) << row;
@@ -128,9 +129,10 @@ TEST(ReportLayout, NumbersCountOnOverAllPages) {
 TEST(ReportLayout, TheKeyHasItsAnswersInThePlacesOfTheBlanks) {
     auto report = oneColumn();
     ReportData data;
-    data.rows = {question(QStringLiteral("I ____ tall."), QStringLiteral("am")),
-                 question(QStringLiteral("(1) ____ you (2) ____ me?"), QStringLiteral("Will"), QStringLiteral("help")),
-                 question(QStringLiteral("Me like it."), QStringLiteral("I"))};
+    data.rows = {
+        question(QStringLiteral("I ____ tall."), QStringLiteral("am")),
+        question(QStringLiteral("(1) ____ you (2) ____ me?"), QStringLiteral("Will"), QStringLiteral("help")),
+        question(QStringLiteral("Me like it."), QStringLiteral("I"))};
     const auto sheet = layOutReport(report, data);
     report.key = true;
     const auto key = layOutReport(report, data);
@@ -148,7 +150,7 @@ TEST(ReportLayout, TheKeyHasItsAnswersInThePlacesOfTheBlanks) {
         EXPECT_LT(blanks[i].place.bottom() - answers[i].place.bottom(), platform::millimetres(2));
     }
     EXPECT_EQ(texts(key, PieceRole::Answer), QStringList({QStringLiteral("am"), QStringLiteral("Will"),
-                                                           QStringLiteral("help"), QStringLiteral("I")}));
+                                                          QStringLiteral("help"), QStringLiteral("I")}));
 }
 
 TEST(ReportLayout, AllBlanksOfASheetAreEquallyLongAndTellNothing) {
@@ -169,12 +171,14 @@ TEST(ReportLayout, WritingLinesStandInAColumnBesideShortQuestionsAndUnderLongAns
     ASSERT_EQ(blanks.size(), 2U);
     EXPECT_DOUBLE_EQ(blanks[0].place.left(), blanks[1].place.left());
     ReportData sentences;
-    sentences.rows = {question(QStringLiteral("조용히 해라."),
-                               QStringLiteral("Please be quiet while the others are still working on their sheets."))};
+    sentences.rows = {
+        question(QStringLiteral("조용히 해라."),
+                 QStringLiteral("Please be quiet while the others are still working on their sheets."))};
     const auto layout = layOutReport(oneColumn(), sentences);
     blanks = pieces(layout, PieceRole::Blank);
     ASSERT_EQ(blanks.size(), 1U);
-    EXPECT_GT(blanks[0].place.bottom(), pieces(layout, PieceRole::Prompt)[0].place.bottom() + platform::millimetres(6));
+    EXPECT_GT(blanks[0].place.bottom(),
+              pieces(layout, PieceRole::Prompt)[0].place.bottom() + platform::millimetres(6));
     EXPECT_GT(blanks[0].place.width(), platform::millimetres(150));
 }
 
@@ -197,7 +201,8 @@ TEST(ReportLayout, TwoUpSheetsHaveTrueColumns) {
     report.items[1].prompts = {text("{b}")};
     ReportData data;
     for (int i = 0; i < 20; ++i)
-        data.rows.push_back(question(QStringLiteral("left ____"), {}, i < 19 ? QStringLiteral("right ____") : QString()));
+        data.rows.push_back(
+            question(QStringLiteral("left ____"), {}, i < 19 ? QStringLiteral("right ____") : QString()));
     const auto layout = layOutReport(report, data);
     const double middle = layout.pageArea.width() / 2;
     std::set<double> lefts;
@@ -246,7 +251,8 @@ TEST(ReportLayout, ALongMaskBreaksBetweenWordsAndStaysOnThePage) {
     report.items[0].words = {text("{w}")};
     report.items[0].masks = {text("{m}")};
     ReportData data;
-    const QString words = QStringLiteral("I am thirteen years old and I go to the middle school near the river bank");
+    const QString words =
+        QStringLiteral("I am thirteen years old and I go to the middle school near the river bank");
     QString mask;
     for (const QChar c : words)
         mask += c == u' ' ? u' ' : u'□';
@@ -260,7 +266,8 @@ TEST(ReportLayout, ALongMaskBreaksBetweenWordsAndStaysOnThePage) {
         tops.insert(box.place.top());
     }
     EXPECT_GE(tops.size(), 5U);
-    EXPECT_EQ(pieces(layout, PieceRole::MaskBox).size(), static_cast<std::size_t>(words.size() - words.count(u' ') + 70));
+    EXPECT_EQ(pieces(layout, PieceRole::MaskBox).size(),
+              static_cast<std::size_t>(words.size() - words.count(u' ') + 70));
 }
 
 TEST(ReportLayout, TheWordBankStandsInAFrameOnEveryPage) {
@@ -280,10 +287,20 @@ TEST(ReportLayout, TheWordBankStandsInAFrameOnEveryPage) {
 
 TEST(ReportLayout, GroupsAreHeadedAndTheHeadIsRepeatedOnThePagesTheyGoOnTo) {
     auto report = oneColumn();
-    report.group = {QStringLiteral("ranges"), QStringLiteral("from"), QStringLiteral("to"), QStringLiteral("no"), {}, text("{Title}"), true};
+    report.group = {QStringLiteral("ranges"),
+                    QStringLiteral("from"),
+                    QStringLiteral("to"),
+                    QStringLiteral("no"),
+                    {},
+                    text("{Title}"),
+                    true};
     ReportData data;
-    data.ranges = {{{QStringLiteral("from"), QStringLiteral("1")}, {QStringLiteral("to"), QStringLiteral("9")}, {QStringLiteral("title"), QStringLiteral("첫째")}},
-                   {{QStringLiteral("from"), QStringLiteral("10")}, {QStringLiteral("to"), QStringLiteral("20")}, {QStringLiteral("title"), QStringLiteral("둘째")}}};
+    data.ranges = {{{QStringLiteral("from"), QStringLiteral("1")},
+                    {QStringLiteral("to"), QStringLiteral("9")},
+                    {QStringLiteral("title"), QStringLiteral("첫째")}},
+                   {{QStringLiteral("from"), QStringLiteral("10")},
+                    {QStringLiteral("to"), QStringLiteral("20")},
+                    {QStringLiteral("title"), QStringLiteral("둘째")}}};
     for (int i = 0; i < 60; ++i) {
         ReportRow row = question(QStringLiteral("q ____"), QStringLiteral("a"));
         row.insert(QStringLiteral("no"), QString::number(i < 5 ? 9 : 10));
@@ -309,7 +326,8 @@ TEST(ReportLayout, ACountThatRestartsBeginsAnotherPart) {
     EXPECT_TRUE(texts(layOutReport(report, data), PieceRole::GroupHead).isEmpty());
     data.rows.push_back(data.rows[0]);
     const auto layout = layOutReport(report, data);
-    EXPECT_EQ(texts(layout, PieceRole::GroupHead), QStringList({QStringLiteral("Part 1"), QStringLiteral("Part 2")}));
+    EXPECT_EQ(texts(layout, PieceRole::GroupHead),
+              QStringList({QStringLiteral("Part 1"), QStringLiteral("Part 2")}));
     EXPECT_EQ(texts(layout, PieceRole::Number).last(), QStringLiteral("1."));
 }
 
@@ -325,7 +343,8 @@ TEST(ReportLayout, ChoicesFollowTheQuestionInBracketsAndASingleOneIsALineOfItsOw
     }
     const auto layout = layOutReport(report, data);
     const QStringList prompts = texts(layout, PieceRole::Prompt);
-    EXPECT_TRUE(prompts.join(u' ').contains(QStringLiteral("( milk / milks )"))) << prompts.join(u'|').toStdString();
+    EXPECT_TRUE(prompts.join(u' ').contains(QStringLiteral("( milk / milks )")))
+        << prompts.join(u'|').toStdString();
     EXPECT_EQ(prompts.last(), QStringLiteral("milk"));
 }
 

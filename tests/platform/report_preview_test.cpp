@@ -31,8 +31,9 @@ class ReportPreviewTest : public ::testing::Test {
     ReportPreviewTest() {
         QDir(desk_.root()).mkpath(QStringLiteral("C/reports"));
         QFile::copy(desk_.file(support::sheetStore), desk_.root() + QStringLiteral("/C/reports/list.mdb"));
-        writeTemplate("store = \"list.mdb\"\nrows = \"tempword\"\norder = \"orderno\"\nname = \"My list\"\n"
-                      "foot = \"{page}\"\n[[item]]\nprompts = [\"{word1}\"]\n");
+        writeTemplate(
+            "store = \"list.mdb\"\nrows = \"tempword\"\norder = \"orderno\"\nname = \"This / my list\"\n"
+            "foot = \"{page}\"\n[[item]]\nprompts = [\"{word1}\"]\n");
     }
     void writeTemplate(const QByteArray& content) {
         QFile file(desk_.root() + QStringLiteral("/C/reports/list.rpt"));
@@ -42,7 +43,8 @@ class ReportPreviewTest : public ::testing::Test {
     void addRows(int count) {
         std::string sql;
         for (int i = 1; i <= count; ++i)
-            sql += "insert into tempword(word1,orderno) values('line " + std::to_string(i) + "'," + std::to_string(i) + ");";
+            sql += "insert into tempword(word1,orderno) values('line " + std::to_string(i) + "'," +
+                   std::to_string(i) + ");";
         desk_.exec(QStringLiteral("C:\\reports\\list.mdb"), sql);
     }
     ReportPreview* start() {
@@ -53,7 +55,9 @@ class ReportPreviewTest : public ::testing::Test {
         settle();
         return report_.window();
     }
-    static QString pageText(ReportPreview* window) { return find<QLabel>(window, QStringLiteral("lblPage")).text(); }
+    static QString pageText(ReportPreview* window) {
+        return find<QLabel>(window, QStringLiteral("lblPage")).text();
+    }
 
     support::Desk desk_;
     QWidget owner_;
@@ -147,9 +151,8 @@ TEST_F(ReportPreviewTest, APrinterGetsAllPages) {
     const QString file = desk_.root() + QStringLiteral("/printed.pdf");
     window->close();
     settle();
-    report_.printers = [&](QWidget*, const ReportLayout& layout, const std::function<void(PrintJob)>& chosen) {
-        chosen(jobOn(file, layout));
-    };
+    report_.printers = [&](QWidget*, const ReportLayout& layout,
+                           const std::function<void(PrintJob)>& chosen) { chosen(jobOn(file, layout)); };
     window = start();
     QTest::keyClick(window, Qt::Key_P, Qt::ControlModifier);
     EXPECT_GT(QFileInfo(file).size(), 1000);
@@ -162,7 +165,8 @@ TEST_F(ReportPreviewTest, APrinterThatRefusesSaysSoAndThePreviewStays) {
     const std::vector<PrintJob> refusals{
         {},
         {std::make_shared<QPdfWriter>(QStringLiteral("/nowhere/at/all.pdf")), 0, 0},
-        {std::make_shared<QPdfWriter>(desk_.root() + QStringLiteral("/out.pdf")), 0, 0, [] { return QStringLiteral("Out of paper."); }}};
+        {std::make_shared<QPdfWriter>(desk_.root() + QStringLiteral("/out.pdf")), 0, 0,
+         [] { return QStringLiteral("Out of paper."); }}};
     std::size_t next = 0;
     report_.printers = [&](QWidget*, const ReportLayout&, const std::function<void(PrintJob)>& chosen) {
         chosen(refusals[next]);
@@ -183,7 +187,7 @@ TEST_F(ReportPreviewTest, AReportIsSavedAsPdfUnderItsName) {
     ReportPreview* window = start();
     support::click(find(window, QStringLiteral("cmdSavePdf")));
     auto& dialog = find<QFileDialog>(window, QStringLiteral("dlgSavePdf"));
-    EXPECT_EQ(QFileInfo(dialog.selectedFiles().value(0)).fileName(), QStringLiteral("My list.pdf"));
+    EXPECT_EQ(QFileInfo(dialog.selectedFiles().value(0)).fileName(), QStringLiteral("This - my list.pdf"));
     const QString file = desk_.root() + QStringLiteral("/saved.pdf");
     Q_EMIT dialog.fileSelected(file);
     QFile saved(file);
@@ -203,9 +207,13 @@ TEST_F(ReportPreviewTest, AReportThatWasNotPreparedOrHasNoFileIsRefused) {
 TEST_F(ReportPreviewTest, ATableOrFieldThatTheStoreLacksIsToldWithFileAndLine) {
     report_.setFile(templatePath);
     const std::vector<std::pair<QByteArray, QString>> cases{
-        {"store = \"list.mdb\"\nrows = \"nothing\"\n[[item]]\nprompts = [\"a\"]\n", QStringLiteral("broken in line")},
-        {"store = \"list.mdb\"\nrows = \"tempword\"\nfoot = \"\"\n[[item]]\nprompts = [\"{none.x}\"]\n", QStringLiteral("broken in line 5")},
-        {"store = \"list.mdb\"\nrows = \"tempword\"\nname = \"{student.Nobody}\"\n[[item]]\nprompts = [\"a\"]\n", QStringLiteral("broken in line 3")}};
+        {"store = \"list.mdb\"\nrows = \"nothing\"\n[[item]]\nprompts = [\"a\"]\n",
+         QStringLiteral("broken in line")},
+        {"store = \"list.mdb\"\nrows = \"tempword\"\nfoot = \"\"\n[[item]]\nprompts = [\"{none.x}\"]\n",
+         QStringLiteral("broken in line 5")},
+        {"store = \"list.mdb\"\nrows = \"tempword\"\nname = \"{student.Nobody}\"\n[[item]]\nprompts = "
+         "[\"a\"]\n",
+         QStringLiteral("broken in line 3")}};
     for (const auto& [content, expected] : cases) {
         writeTemplate(content);
         try {

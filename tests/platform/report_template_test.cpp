@@ -26,7 +26,9 @@ class ReportTemplateTest : public ::testing::Test {
         ASSERT_TRUE(file.open(QIODevice::WriteOnly));
         file.write(content);
     }
-    platform::ReportTemplate read(const QString& name) const { return readReportTemplate(drives_, path(name)); }
+    platform::ReportTemplate read(const QString& name) const {
+        return readReportTemplate(drives_, path(name));
+    }
     /// The sentence of the error that reading ends in.
     QString error(const QString& name) const {
         try {

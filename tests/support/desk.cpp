@@ -3,6 +3,7 @@
 #include "app/screens.h"
 #include "platform/application.h"
 #include "platform/timer.h"
+#include "tests/support/ended_run.h"
 #include "tools/store_writer.h"
 #include "tools/wave.h"
 
@@ -58,6 +59,11 @@ QPoint barePlace(const QWidget& form) {
 }
 
 }  // namespace
+
+bool& runHasEnded() {
+    static bool ended = false;
+    return ended;
+}
 
 float FakeRandom::next() {
     if (!draws.empty()) {
@@ -130,6 +136,7 @@ Desk::Desk(const QString& userId) : root_(folder_.path()), drives_(std::make_uni
     session.videoRoot = QStringLiteral("D:\\A_Mendori\\Mendori_Program\\Tovalin1_Video\\");
     session.appDir = QStringLiteral("D:\\\\");
     application().onFailure = [this](const std::exception& failure) {
+        runHasEnded() = true;
         if (failure_.isEmpty())
             failure_ = platform::failureText(failure);
     };

@@ -2,6 +2,7 @@
 
 #include "platform/application.h"
 #include "platform/look.h"
+#include "tests/support/ended_run.h"
 
 #include <QFile>
 #include <QFileInfo>
@@ -9,6 +10,9 @@
 #include <QTemporaryDir>
 
 #include <gtest/gtest.h>
+
+#include <cstdio>
+#include <cstdlib>
 
 namespace {
 
@@ -25,7 +29,7 @@ void keepTemporaryFilesInMemory() {
 
 int main(int argc, char** argv) {
     keepTemporaryFilesInMemory();
-    const QTemporaryDir home;
+    QTemporaryDir home;
     const QString screen = home.filePath(QStringLiteral("screen.json"));
     QFile file(screen);
     if (file.open(QIODevice::WriteOnly))
@@ -45,5 +49,11 @@ int main(int argc, char** argv) {
     platform::Application application(argc, argv);
     application.onFailure = [](const std::exception& failure) { ADD_FAILURE() << failure.what(); };
     platform::setUpLook();
-    return RUN_ALL_TESTS();
+    const int result = RUN_ALL_TESTS();
+    if (support::runHasEnded()) {
+        home.remove();
+        std::fflush(nullptr);
+        std::_Exit(result);
+    }
+    return result;
 }

@@ -40,11 +40,11 @@ class CourseCommands : public testing::Test {
    protected:
     CourseCommands() {
         QDir().mkpath(course + QStringLiteral("/unit01"));
-        for (const char* folder : {"", "/unit01"})
+        for (const char* part : {"", "/unit01"})
             for (const QString& name :
-                 QDir(example + QLatin1String(folder)).entryList({QStringLiteral("*.csv")}))
-                QFile::copy(example + QLatin1String(folder) + u'/' + name,
-                            course + QLatin1String(folder) + u'/' + name);
+                 QDir(example + QLatin1String(part)).entryList({QStringLiteral("*.csv")}))
+                QFile::copy(example + QLatin1String(part) + u'/' + name,
+                            course + QLatin1String(part) + u'/' + name);
     }
 
     void append(const char* table, const char* row) const {
@@ -107,13 +107,12 @@ TEST_F(CourseCommands, AWrongCallEndsWith2) {
 }
 
 TEST_F(CourseCommands, HelpNamesTheCommandAsItIsCalled) {
-    for (const auto& [command, name] :
-         {std::pair(tools::runCheck, "Usage: course check [options] [folder]"),
-          std::pair(tools::runBuild, "Usage: course build [options] [folder]")}) {
-        const Ending ending = run(command, {QStringLiteral("--help")});
-        EXPECT_EQ(ending.status, 0);
-        EXPECT_TRUE(contains(ending.out, name)) << ending.out;
-    }
+    const Ending check = run(tools::runCheck, {QStringLiteral("--help")});
+    EXPECT_EQ(check.status, 0);
+    EXPECT_TRUE(contains(check.out, "Usage: course check [options] [folder]")) << check.out;
+    const Ending build = run(tools::runBuild, {QStringLiteral("--help")});
+    EXPECT_EQ(build.status, 0);
+    EXPECT_TRUE(contains(build.out, "Usage: course build [options] [folder]")) << build.out;
 }
 
 TEST_F(CourseCommands, BuildMakesStoresThatCheckFindsWhole) {

@@ -1,7 +1,7 @@
 // The import held against genuine Access files that nobody here wrote. They are no part of the project: the
 // folder is named by MENDORI_ACCESS_SAMPLES or lies beside the checkout.
 
-#include "import_fake.h"
+#include "tests/tools/import_fake.h"
 
 #include "tools/import_isolated.h"
 #include "tools/import_jet.h"

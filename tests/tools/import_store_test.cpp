@@ -1,4 +1,4 @@
-#include "import_fake.h"
+#include "tests/tools/import_fake.h"
 
 #include "tools/import_store.h"
 

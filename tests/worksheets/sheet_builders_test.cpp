@@ -16,12 +16,15 @@ class SheetBuilders : public ::testing::Test {
    protected:
     void addQuestions(const std::vector<std::string>& rows) {
         for (const std::string& row : rows)
-            desk_.exec(sheetStore, "insert into quiz_data_New3(topicno,recordno,orderno,q1,q2,q3,q4,a1,a2) values(" + row + ")");
+            desk_.exec(
+                sheetStore,
+                "insert into quiz_data_New3(topicno,recordno,orderno,q1,q2,q3,q4,a1,a2) values(" + row + ")");
     }
     void addDrillRows(int count) {
         for (int i = 1; i <= count; ++i)
-            desk_.exec(sheetStore, "insert into basic_Data(recordno,orderno,word1,word2) values(1," + std::to_string(i) +
-                                       ",'word" + std::to_string(i) + "','answer" + std::to_string(i) + "')");
+            desk_.exec(sheetStore, "insert into basic_Data(recordno,orderno,word1,word2) values(1," +
+                                       std::to_string(i) + ",'word" + std::to_string(i) + "','answer" +
+                                       std::to_string(i) + "')");
     }
     BuildResult build(int recordNo, int topicNo = 1) {
         const auto course = platform::Database::open(desk_.file(sheetStore), sheetStore);
@@ -53,7 +56,8 @@ TEST_F(SheetBuilders, TwoUpPutsTwoDrillRowsOnALine) {
 TEST_F(SheetBuilders, TwoUpLeavesTheLastLineHalfFilledForAnOddCount) {
     addDrillRows(3);
     build(184);
-    EXPECT_EQ(lines("word1,word2,word3,word4,word5,recordno,orderno,orderno2").value(1), QStringLiteral("word3|answer3||||2|2|0"));
+    EXPECT_EQ(lines("word1,word2,word3,word4,word5,recordno,orderno,orderno2").value(1),
+              QStringLiteral("word3|answer3||||2|2|0"));
 }
 
 TEST_F(SheetBuilders, TwoUpTakesQuestionsOfTheQuizWhereTheTableSaysSo) {
@@ -118,8 +122,8 @@ TEST_F(SheetBuilders, LinesAreCountedFromOneInStoredOrder) {
 
 TEST_F(SheetBuilders, TheWordBankHoldsEachAnswerOnceInTheOrderOfItsFirstOccurrence) {
     addDrillRows(3);
-    addQuestions({"17,171,1,'q1','','','','on',''", "17,171,2,'q2','','','','at',''", "17,171,3,'q3','','','','ON',''",
-                  "17,171,4,'q4','','','','in',''"});
+    addQuestions({"17,171,1,'q1','','','','on',''", "17,171,2,'q2','','','','at',''",
+                  "17,171,3,'q3','','','','ON',''", "17,171,4,'q4','','','','in',''"});
     build(171);
     EXPECT_EQ(desk_.rows(sheetStore, "select w1,w2,w3,w4,w12 from sample"), list({"on|at|in|NULL|NULL"}));
     EXPECT_EQ(desk_.rows(sheetStore, "select word1 from basic_Data"), list({"on", "at", "in"}));
@@ -149,16 +153,18 @@ TEST_F(SheetBuilders, ChoicesStandInBracketsWithTheirOwnSpaces) {
 }
 
 TEST_F(SheetBuilders, AFinalTakesTheQuestionsOfItsRanges) {
-    desk_.exec(sheetStore,
-               "insert into tablework_Final(recordno,Title) values(999,'left over');"
-               "insert into tablework_final_data(recordno,recordno2,topicno,Title) values(116,120,11,'빈칸');"
-               "insert into tablework_final_data(recordno,recordno2,topicno,Title) values(121,123,11,'문장');"
-               "insert into tablework_final_data(recordno,recordno2,topicno,Title) values(75,76,7,'다른 단원')");
+    desk_.exec(
+        sheetStore,
+        "insert into tablework_Final(recordno,Title) values(999,'left over');"
+        "insert into tablework_final_data(recordno,recordno2,topicno,Title) values(116,120,11,'빈칸');"
+        "insert into tablework_final_data(recordno,recordno2,topicno,Title) values(121,123,11,'문장');"
+        "insert into tablework_final_data(recordno,recordno2,topicno,Title) values(75,76,7,'다른 단원')");
     addQuestions({"11,121,1,'make','뜻','','','made','b'", "11,118,1,'fill','no','','','filled','c'",
                   "11,125,1,'outside','','','','x',''", "11,122,4,'build','짓다','','','built',''"});
     EXPECT_EQ(build(126, 11), BuildResult::Built);
-    EXPECT_EQ(desk_.rows(sheetStore, "select recordno,recordno2,topicno,Title from tablework_Final order by rowid"),
-              list({"116|120|11|빈칸", "121|123|11|문장"}));
+    EXPECT_EQ(
+        desk_.rows(sheetStore, "select recordno,recordno2,topicno,Title from tablework_Final order by rowid"),
+        list({"116|120|11|빈칸", "121|123|11|문장"}));
     EXPECT_EQ(lines("word1,word2,word7,recordno,orderno"),
               list({"fill|NULL|filled|118|1", "make|뜻|made|121|2", "build|짓다|built|122|3"}));
 }
@@ -166,8 +172,10 @@ TEST_F(SheetBuilders, AFinalTakesTheQuestionsOfItsRanges) {
 TEST_F(SheetBuilders, AFinalHasASecondLineOnlyForRangesThatBeginAtFourSteps) {
     for (const int first : {121, 134, 165, 208, 120, 166}) {
         const std::string number = std::to_string(first);
-        desk_.exec(sheetStore, "delete from tempword; delete from quiz_data_New3; delete from tablework_final_data;"
-                               "insert into tablework_final_data(recordno,recordno2,topicno) values(" + number + ",250,1)");
+        desk_.exec(sheetStore,
+                   "delete from tempword; delete from quiz_data_New3; delete from tablework_final_data;"
+                   "insert into tablework_final_data(recordno,recordno2,topicno) values(" +
+                       number + ",250,1)");
         addQuestions({"1," + number + ",1,'one','two','','','a',''"});
         build(252);
         const bool second = first == 121 || first == 134 || first == 165 || first == 208;

@@ -18,7 +18,8 @@ TEST(SheetTables, EveryNumberHasItsBuilderAndItsTwoTemplates) {
         EXPECT_EQ(worksheets::builderOf(sheet.recordNo), sheet.builder) << sheet.recordNo;
         const SheetTemplate* row = worksheets::templateOf(sheet.recordNo);
         EXPECT_EQ(row == nullptr ? "" : row->file, std::string_view(sheet.file)) << sheet.recordNo;
-        EXPECT_EQ(row == nullptr ? "" : row->teacherFile, std::string_view(sheet.teacherFile)) << sheet.recordNo;
+        EXPECT_EQ(row == nullptr ? "" : row->teacherFile, std::string_view(sheet.teacherFile))
+            << sheet.recordNo;
     }
 }
 

@@ -27,24 +27,29 @@ class WorksheetMenuTest : public ::testing::Test {
     WorksheetMenuTest() {
         installReports(desk_);
         for (int topic = 1; topic <= 24; ++topic)
-            desk_.exec(sheetStore, "insert into topic values(" + std::to_string(topic) + ",'단원 " + std::to_string(topic) + "')");
+            desk_.exec(sheetStore, "insert into topic values(" + std::to_string(topic) + ",'단원 " +
+                                       std::to_string(topic) + "')");
     }
 
     void addStep(int recordNo, int topicNo, int pageNo, const std::string& type = "Quiz",
                  const std::string& useData = "YES") {
         const std::string number = std::to_string(recordNo);
-        desk_.exec(sheetStore, "insert into tablework(recordno,topicno,pageno,Type,Title,guide,guide2,wordno,usedata,"
-                               "useform,quizno) values(" + number + "," + std::to_string(topicNo) + "," +
-                                   std::to_string(pageNo) + ",'" + type + "','제목','안내','지시 " + number + "',0,'" +
-                                   useData + "','frmQuiz',5)");
+        desk_.exec(sheetStore,
+                   "insert into tablework(recordno,topicno,pageno,Type,Title,guide,guide2,wordno,usedata,"
+                   "useform,quizno) values(" +
+                       number + "," + std::to_string(topicNo) + "," + std::to_string(pageNo) + ",'" + type +
+                       "','제목','안내','지시 " + number + "',0,'" + useData + "','frmQuiz',5)");
     }
     void addQuestions(int recordNo, int count) {
         std::string sql;
         for (int i = 1; i <= count; ++i) {
             const std::string n = std::to_string(recordNo) + "-" + std::to_string(i);
-            sql += "insert into tovalin1_quiz_data(topicno,recordno,orderno,q1,q2,q3,q4,a1,a2,autono) values(1," +
-                   std::to_string(recordNo) + "," + std::to_string(i) + ",'" + n + " asks ____.','p','q','Blank','a" +
-                   std::to_string(i) + "',''," + std::to_string(recordNo * 100 + i) + ");";
+            sql +=
+                "insert into tovalin1_quiz_data(topicno,recordno,orderno,q1,q2,q3,q4,a1,a2,autono) "
+                "values(1," +
+                std::to_string(recordNo) + "," + std::to_string(i) + ",'" + n +
+                " asks ____.','p','q','Blank','a" + std::to_string(i) + "',''," +
+                std::to_string(recordNo * 100 + i) + ");";
         }
         desk_.exec(masterStore, sql);
     }
@@ -88,7 +93,7 @@ TEST_F(WorksheetMenuTest, OpensOnTheUnitInHandWithItsLessons) {
     EXPECT_FALSE(lesson(3).isVisible());
     EXPECT_EQ(lesson(1).palette().color(QPalette::Window).rgb(), platform::colour::red);
     EXPECT_EQ(lesson(0).palette().color(QPalette::Window).rgb(), platform::colour::white);
-    EXPECT_TRUE(menu_->property("picture").toString().endsWith(QStringLiteral("interface\\table2011.jpg")));
+    EXPECT_EQ(menu_->property("picture").toString(), QStringLiteral("table2011.jpg"));
     EXPECT_EQ(find<Label>(menu_, QStringLiteral("Label1")).caption(), QStringLiteral("Unit No"));
 }
 
@@ -122,9 +127,10 @@ TEST_F(WorksheetMenuTest, AClickOnALessonShowsItsSheet) {
     ASSERT_NE(preview(), nullptr) << desk_.failure().toStdString();
     EXPECT_EQ(preview()->objectName(), QStringLiteral("frmReport"));
     EXPECT_EQ(reportName(), QStringLiteral("gram4.rpt"));
-    EXPECT_EQ(lines("word1,word2,word3,word4,word5,orderno"),
-              (QStringList{QStringLiteral("40-1 asks ____.|||a1||1"), QStringLiteral("40-2 asks ____.|||a2||2"),
-                           QStringLiteral("40-3 asks ____.|||a3||3")}));
+    EXPECT_EQ(
+        lines("word1,word2,word3,word4,word5,orderno"),
+        (QStringList{QStringLiteral("40-1 asks ____.|||a1||1"), QStringLiteral("40-2 asks ____.|||a2||2"),
+                     QStringLiteral("40-3 asks ____.|||a3||3")}));
     closePreview();
     EXPECT_EQ(preview(), nullptr);
     EXPECT_EQ(desk_.top(), menu_);
@@ -136,8 +142,9 @@ TEST_F(WorksheetMenuTest, TheHeaderTablesHoldOneRowAfterEveryClick) {
     addStep(41, 3, 2);
     addQuestions(40, 2);
     addQuestions(41, 1);
-    desk_.exec(sheetStore, "insert into student values('x','y',9); insert into student values('x','y',9);"
-                           "insert into guide values(1,'old'); insert into tempword(word1) values('old')");
+    desk_.exec(sheetStore,
+               "insert into student values('x','y',9); insert into student values('x','y',9);"
+               "insert into guide values(1,'old'); insert into tempword(word1) values('old')");
     open(3);
     for (const int index : {0, 1, 0}) {
         click(lesson(index));
@@ -158,15 +165,18 @@ TEST_F(WorksheetMenuTest, TheCopyAtTheFixedPlaceIsUsedAndTheCourseIsLeftAlone) {
     desk_.exec(courseStore, "insert into quiz_data_New3(recordno,q1) values(5,'of the screen')");
     open(3);
     click(lesson(0));
-    EXPECT_EQ(desk_.rows(courseStore, "select recordno,q1 from quiz_data_New3"), QStringList{QStringLiteral("5|of the screen")});
-    EXPECT_EQ(desk_.rows(sheetStore, "select count(*) from quiz_data_New3"), QStringList{QStringLiteral("2")});
+    EXPECT_EQ(desk_.rows(courseStore, "select recordno,q1 from quiz_data_New3"),
+              QStringList{QStringLiteral("5|of the screen")});
+    EXPECT_EQ(desk_.rows(sheetStore, "select count(*) from quiz_data_New3"),
+              QStringList{QStringLiteral("2")});
     EXPECT_EQ(desk_.rows(courseStore, "select count(*) from tempword"), QStringList{QStringLiteral("0")});
 }
 
 TEST_F(WorksheetMenuTest, ARefusedLessonSaysSoBeforeAnyReportTableIsTouched) {
     addStep(29, 3, 1, "Lesson");
     addQuestions(29, 2);
-    desk_.exec(sheetStore, "insert into student values('old','old',1); insert into tempword(word1) values('old')");
+    desk_.exec(sheetStore,
+               "insert into student values('old','old',1); insert into tempword(word1) values('old')");
     open(3);
     click(lesson(0));
     ASSERT_EQ(desk_.boxes.shown.size(), 1U);
@@ -176,7 +186,8 @@ TEST_F(WorksheetMenuTest, ARefusedLessonSaysSoBeforeAnyReportTableIsTouched) {
     EXPECT_EQ(desk_.rows(sheetStore, "select Name from student"), QStringList{QStringLiteral("old")});
     EXPECT_EQ(lines(), QStringList{QStringLiteral("old")});
     // The working data have been prepared by then.
-    EXPECT_EQ(desk_.rows(sheetStore, "select count(*) from quiz_data_New3"), QStringList{QStringLiteral("2")});
+    EXPECT_EQ(desk_.rows(sheetStore, "select count(*) from quiz_data_New3"),
+              QStringList{QStringLiteral("2")});
     EXPECT_EQ(desk_.session.recordNo, 29);
 }
 
@@ -219,7 +230,8 @@ TEST_F(WorksheetMenuTest, Step124WithoutAnyReportBeforeEndsTheRunAfterFillingIts
     addQuestions(124, 2);
     open(11);
     click(lesson(0));
-    EXPECT_TRUE(desk_.failure().contains(QStringLiteral("no report was chosen"))) << desk_.failure().toStdString();
+    EXPECT_TRUE(desk_.failure().contains(QStringLiteral("no report was chosen")))
+        << desk_.failure().toStdString();
     EXPECT_EQ(lines().size(), 2);
 }
 
@@ -274,8 +286,9 @@ TEST_F(WorksheetMenuTest, AFinalDrawsItsQuestionsAnewEachTime) {
     addStep(75, 7, 1);
     addStep(94, 7, 2, "Final");
     addQuestions(75, 40);
-    desk_.exec(sheetStore, "update tablework set quizno=40 where recordno=75;"
-                           "insert into tablework_final_data(recordno,recordno2,topicno,Title) values(75,93,7,'모두')");
+    desk_.exec(sheetStore,
+               "update tablework set quizno=40 where recordno=75;"
+               "insert into tablework_final_data(recordno,recordno2,topicno,Title) values(75,93,7,'모두')");
     open(7);
     std::set<QString> draws;
     for (int i = 0; i < 3; ++i) {
@@ -295,8 +308,9 @@ TEST_F(WorksheetMenuTest, AFinalWithoutMasterRowsSaysSoAndPrintsNothing) {
     open(7);
     click(lesson(0));
     EXPECT_EQ(desk_.boxes.texts(),
-              QStringList{QStringLiteral("데이타 오류입니다.  Tovalin 프로그램을 재설치하십시오.\n재설치후 같은 오류인 경우에는 "
-                                         "본사로 연락하십시오.")});
+              QStringList{QStringLiteral(
+                  "데이타 오류입니다.  Tovalin 프로그램을 재설치하십시오.\n재설치후 같은 오류인 경우에는 "
+                  "본사로 연락하십시오.")});
     EXPECT_EQ(preview(), nullptr);
     EXPECT_EQ(desk_.rows(sheetStore, "select count(*) from student"), QStringList{QStringLiteral("1")});
 }
@@ -331,7 +345,8 @@ TEST_F(WorksheetMenuTest, AMissingTemplateEndsTheRunWithItsName) {
     QFile::remove(desk_.file(sheetFolder + QStringLiteral("gram4.rpt")));
     open(3);
     click(lesson(0));
-    EXPECT_TRUE(desk_.failure().contains(sheetFolder + QStringLiteral("gram4.rpt"))) << desk_.failure().toStdString();
+    EXPECT_TRUE(desk_.failure().contains(sheetFolder + QStringLiteral("gram4.rpt")))
+        << desk_.failure().toStdString();
     EXPECT_TRUE(desk_.failure().contains(QStringLiteral("'53'")));
 }
 
@@ -352,8 +367,9 @@ TEST_F(WorksheetMenuTest, TheExitButtonLightsOnceAndRestsWhenTheMouseCrossesTheF
 
 TEST_F(WorksheetMenuTest, ExitGoesBackToTheTableThatOpenedIt) {
     addStep(40, 3, 1);
-    desk_.exec(courseStore, "insert into topic values(1,'t'); insert into tablework(recordno,topicno,pageno,Type,Title,"
-                            "Data,wordno) values(40,1,1,'Quiz','제목','d',0)");
+    desk_.exec(courseStore,
+               "insert into topic values(1,'t'); insert into tablework(recordno,topicno,pageno,Type,Title,"
+               "Data,wordno) values(40,1,1,'Quiz','제목','d',0)");
     core::Screen* table = desk_.open(QStringLiteral("frmTable"));
     ASSERT_NE(table, nullptr) << desk_.failure().toStdString();
     click(find(table, QStringLiteral("picRepeat")));

@@ -25,12 +25,14 @@ void fillCourse(const Desk& desk) {
     for (std::size_t i = 0; i < steps.size(); ++i) {
         const std::string number = std::to_string(steps[i]);
         const bool isFinal = steps[i] == 14 || steps[i] == 94;
-        course += "insert into tablework(recordno,topicno,pageno,Type,Title,guide2,wordno,usedata,quizno) values(" +
-                  number + "," + std::to_string(i / lessonsAUnit + 1) + "," + std::to_string(i % lessonsAUnit + 1) +
-                  (isFinal ? ",'Final'" : ",'Quiz'") + ",'t','g',0,'YES',6);";
+        course +=
+            "insert into tablework(recordno,topicno,pageno,Type,Title,guide2,wordno,usedata,quizno) values(" +
+            number + "," + std::to_string(i / lessonsAUnit + 1) + "," + std::to_string(i % lessonsAUnit + 1) +
+            (isFinal ? ",'Final'" : ",'Quiz'") + ",'t','g',0,'YES',6);";
         for (int k = 1; k <= 6; ++k)
-            master += "insert into tovalin1_quiz_data(recordno,orderno,q1,q2,q3,q4,a1,a2,autono) values(" + number +
-                      "," + std::to_string(k) + ",'q ____','b','c','d','a','e'," + std::to_string(k) + ");";
+            master += "insert into tovalin1_quiz_data(recordno,orderno,q1,q2,q3,q4,a1,a2,autono) values(" +
+                      number + "," + std::to_string(k) + ",'q ____','b','c','d','a','e'," +
+                      std::to_string(k) + ");";
     }
     for (int topic = 1; topic <= 3; ++topic)
         course += "insert into topic values(" + std::to_string(topic) + ",'unit');";
