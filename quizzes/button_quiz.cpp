@@ -45,7 +45,7 @@ void ButtonQuiz::pressed(int index) {
     if (!gateOpen())
         return;
     positionRow();
-    announce(judgeButton(session().recordNo, index, cmdOne_(index).text(), required("a1")));
+    announce(judgeButton(session().recordNo, index, cmdOne_(index).text(), answer(0)));
     advance();
 }
 

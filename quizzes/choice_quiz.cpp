@@ -24,8 +24,8 @@ void ChoiceQuiz::chosen(std::size_t index) {
         return;
     positionRow();
     const bool either = entry().eitherAnswer.holds(session().recordNo);
-    announce(judgeChoice(entry().compare, choices()[index]->caption(), required("a1"),
-                         either ? required("a2") : QString(), either));
+    announce(judgeChoice(entry().compare, choices()[index]->caption(), answer(0),
+                         either ? answer(1) : QString(), either));
     advance();
 }
 

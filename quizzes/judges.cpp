@@ -157,8 +157,8 @@ Verdict judgeButton(int recordNo, int index, const QString& caption, const QStri
     return verdict;
 }
 
-Verdict judgeSentence(const QString& typed, const QString& a1) {
-    if (matches(Compare::LetterByLetter, typed, a1))
+Verdict judgeSentence(Compare compare, const QString& typed, const QString& a1) {
+    if (matches(compare, typed, a1))
         return right();
     return wrong(wrongTyping + rightSentence + a1);
 }

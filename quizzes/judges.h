@@ -46,8 +46,8 @@ ButtonSet buttonSet(int recordNo);
 /// A press of the button with an index and a caption.
 Verdict judgeButton(int recordNo, int index, const QString& caption, const QString& a1);
 
-/// A typed sentence, letter by letter to the length of the answer; what follows is not looked at.
-Verdict judgeSentence(const QString& typed, const QString& a1);
+/// A typed sentence. Compared letter by letter, what follows the length of the answer is not looked at.
+Verdict judgeSentence(Compare compare, const QString& typed, const QString& a1);
 
 /// Which field a label of the sentence quiz takes on a step; null leaves the label as it is.
 struct SentenceFields {

@@ -20,6 +20,8 @@ class QuestionQuiz : public QuizScreen {
     /// Shuffles and asks the first question.
     void startRun();
 
+    /// An answer of the row in hand: the field that the entry judges against, from 0.
+    QString answer(std::size_t index) const { return required(entry().judged[index]); }
     /// Puts `quizRs` on the question on show.
     void positionRow();
     /// Plays and shows the verdict, counts it, and marks the row of a wrong answer.

@@ -214,7 +214,6 @@ constexpr std::array entries{
         .shape = Shape::Table,
         .answering = Answering::RowTyping,
         .compare = Compare::TrimmedLowerCase,
-        .judged = {"a1", "a2"},
         .columns = twoTypedColumns,
         .quizCaption = "Answer",
         .counters = {.shown = CountersShown::AfterFill, .refreshedByBegin = true},

@@ -107,7 +107,7 @@ struct QuizEntry {
     Shape shape;
     Answering answering;
     Compare compare;
-    /// The fields judged against, in the order of the answers.
+    /// The fields judged against, in the order of the answers; on a table the columns tell them.
     std::array<const char*, 2> judged{"a1", nullptr};
     /// Steps on which the second field is as good an answer as the first.
     RecordRange eitherAnswer{};

@@ -17,10 +17,10 @@ TextRole roleOf(Look look) {
     switch (look) {
         case Look::Sentence: return TextRole::Sentence;
         case Look::Line: return TextRole::Row;
-        case Look::Choice: return TextRole::Choice;
-        case Look::Slot: return TextRole::Choice;
+        case Look::Choice:
+        case Look::Slot: break;
     }
-    return TextRole::Body;
+    return TextRole::Choice;
 }
 
 void dress(Label& label, Look look) {

@@ -48,6 +48,10 @@ class QuizScreen : public course::ExerciseScreen {
     /// Ends the run with a sentence that names the step and what is wrong with its rows.
     [[noreturn]] void failRows(platform::Fault fault, const QString& what) const;
 
+    /// Whether the box of an answer holds it from the start.
+    bool fillsForTeacher() const {
+        return entry_.teacherHelp == TeacherHelp::FillsAnswer && session().isTeacher();
+    }
     void showAnswerLine();
     void showCounters(int item, int total);
     void showFinalCounters();

@@ -35,7 +35,7 @@ void SentenceQuiz::showQuestion(bool) {
         showFitted(shownLabel(word), required(fields.word), TextRole::Sentence, scale());
     if (fields.korean != nullptr)
         showFitted(shownLabel(korean), required(fields.korean), TextRole::Sentence, scale());
-    txtWord_->setText(session().isTeacher() ? required("a1") : QString());
+    txtWord_->setText(fillsForTeacher() ? answer(0) : QString());
     txtWord_->setFocus();
 }
 
@@ -47,7 +47,7 @@ void SentenceQuiz::judge(bool byEnter) {
         return;
     }
     positionRow();
-    announce(judgeSentence(txtWord_->text(), required("a1")));
+    announce(judgeSentence(entry().compare, txtWord_->text(), answer(0)));
     if (byEnter && onLastQuestion())
         txtWord_->setText(QString());
     advance();

@@ -143,8 +143,7 @@ void TableQuiz::fillRow(int row, const ColumnControls& controls) {
     const Column& column = *controls.column;
     if (controls.isBoxes()) {
         TextBox& box = controls.boxes(row);
-        const bool fills = entry().teacherHelp == TeacherHelp::FillsAnswer && session().isTeacher();
-        box.setText(fills ? required(column.judged) : QString());
+        box.setText(fillsForTeacher() ? required(column.judged) : QString());
         box.show();
         return;
     }

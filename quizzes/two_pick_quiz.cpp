@@ -39,8 +39,7 @@ void TwoPickQuiz::check() {
         return;
     }
     positionRow();
-    announce(judgePicks(entry().compare, lblWord8_->caption(), lblWord9_->caption(), required("a1"),
-                        required("a2")));
+    announce(judgePicks(entry().compare, lblWord8_->caption(), lblWord9_->caption(), answer(0), answer(1)));
     advance();
 }
 

@@ -93,7 +93,7 @@ void WordBoxQuiz::judge() {
 }
 
 Verdict WordBoxQuiz::judgeBoxes() {
-    const QString a1 = required("a1");
+    const QString a1 = answer(0);
     const qsizetype words = answerWords(a1).size();
     if (words > boxCount)
         failRows(platform::Fault::SubscriptOutOfRange,

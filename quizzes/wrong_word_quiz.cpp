@@ -44,7 +44,7 @@ WrongWordQuiz::WrongWordQuiz(core::Context& context, const QuizEntry& entry) : Q
 }
 
 void WrongWordQuiz::showQuestion(bool first) {
-    txtWord_->setText(session().isTeacher() ? required("a1") : QString());
+    txtWord_->setText(fillsForTeacher() ? answer(0) : QString());
     fillAllShown();
     const QString sentence = required("q1");
     ShowSentence(first ? sentence : sentence.trimmed());
@@ -121,7 +121,7 @@ void WrongWordQuiz::judge(bool byEnter) {
         return;
     }
     positionRow();
-    announce(judgeCorrection(session().recordNo, txtWord_->text(), required("a1"), required("a2"), byEnter));
+    announce(judgeCorrection(session().recordNo, txtWord_->text(), answer(0), answer(1), byEnter));
     if (byEnter)
         txtWord_->setText(QString());
     advance();

@@ -173,8 +173,9 @@ TEST(Judges, CaptionsAreComparedExactlyAndSilentlyFromStep153UpWithoutEnd) {
 }
 
 TEST(Judges, ASentenceIsRightToTheLengthOfItsAnswer) {
-    EXPECT_EQ(judgeSentence("I go. Really", "I go.").outcome, right);
-    EXPECT_EQ(judgeSentence("i go.", "I go.").message, typedWrong + QStringLiteral("올바른 문장은 I go."));
+    EXPECT_EQ(judgeSentence(Compare::LetterByLetter, "I go. Really", "I go.").outcome, right);
+    EXPECT_EQ(judgeSentence(Compare::LetterByLetter, "i go.", "I go.").message,
+              typedWrong + QStringLiteral("올바른 문장은 I go."));
 }
 
 TEST(Judges, SentenceLabelsTakeTheirFieldsByTheStep) {
