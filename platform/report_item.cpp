@@ -303,6 +303,16 @@ void placeLines(const ReportTemplate& report, const std::vector<const ItemConten
     m.lineLeft = std::min(most, m.numberWidth + widest + questionGap);
 }
 
+/// The word for "nothing" is no text to read: it drops out as a line, and is a mark among choices and
+/// answers.
+void tellNothing(const ReportTemplate& report, ItemContent& content) {
+    if (content.prompts.size() > 1)
+        std::erase(content.prompts, report.nothingWord);
+    const QString choice = presentCount(content.choices) > 1 ? report.nothingMark : QString();
+    std::replace(content.choices.begin(), content.choices.end(), report.nothingWord, choice);
+    std::replace(content.answers.begin(), content.answers.end(), report.nothingWord, report.nothingMark);
+}
+
 }  // namespace
 
 bool ItemContent::isEmpty() const {
@@ -331,7 +341,7 @@ ItemContent itemContent(const ReportTemplate& report, const ReportData& data, in
     content.choices = filledTexts(item.choices, data, fields);
     content.answers = filledTexts(item.answers, data, fields);
     if (!report.nothingWord.isEmpty())
-        std::replace(content.answers.begin(), content.answers.end(), report.nothingWord, report.nothingMark);
+        tellNothing(report, content);
     content.words = filledTexts(item.words, data, fields);
     content.masks = filledTexts(item.masks, data, fields);
     content.lettersShown = item.lettersShown;

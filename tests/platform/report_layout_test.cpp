@@ -3,6 +3,8 @@
 #include "platform/error.h"
 #include "tests/support/desk.h"
 
+#include <QRawFont>
+
 #include <gtest/gtest.h>
 
 #include <algorithm>
@@ -358,12 +360,31 @@ TEST(ReportLayout, AnAnswerThatStandsForNothingIsMarkedInTheKey) {
     EXPECT_EQ(texts(layOutReport(report, data), PieceRole::Answer), QStringList{QStringLiteral("X")});
 }
 
-TEST(ReportLayout, NoLetterIsWithoutAShape) {
-    const auto glyphs = [](const QString& text) {
-        return QFontMetricsF(platform::reportFont({12, false})).horizontalAdvance(text);
+TEST(ReportLayout, TheWordForNothingIsNoLineToReadAndAMarkAmongChoices) {
+    auto report = oneColumn();
+    report.nothingWord = QStringLiteral("Blank");
+    report.nothingMark = QStringLiteral("X");
+    report.items[0].prompts = {text("{q}"), text("{b}")};
+    report.items[0].choices = {text("{c}"), text("{d}")};
+    report.items[0].answers.clear();
+    const auto prompts = [&](const QString& line, const QString& one, const QString& other) {
+        ReportData data;
+        data.rows = {question(QStringLiteral("by ____ car"), {}, line)};
+        data.rows[0].insert(QStringLiteral("c"), one);
+        data.rows[0].insert(QStringLiteral("d"), other);
+        return texts(layOutReport(report, data), PieceRole::Prompt).join(u'|');
     };
-    for (const char* letters : {"가", "힣", "A", "→", "(", "'"})
-        EXPECT_GT(glyphs(QString::fromUtf8(letters)), 0) << letters;
+    const QString nothing = QStringLiteral("Blank");
+    EXPECT_EQ(prompts(nothing, {}, {}), QStringLiteral("by|car"));
+    EXPECT_EQ(prompts({}, nothing, {}), QStringLiteral("by|car"));
+    EXPECT_TRUE(prompts({}, QStringLiteral("a"), nothing).endsWith(QStringLiteral("( a / X )")));
+    EXPECT_EQ(prompts(QStringLiteral("차로"), {}, {}), QStringLiteral("by|car|차로"));
+}
+
+TEST(ReportLayout, OneFontHasAllLettersOfASheet) {
+    const QRawFont font = QRawFont::fromFont(platform::reportFont({12, false}));
+    for (const QChar letter : QStringLiteral("가힣뷁Az09→()/'□"))
+        EXPECT_TRUE(font.supportsCharacter(letter)) << QString(letter).toStdString();
 }
 
 TEST(ReportLayout, AFieldThatNoTableHasIsToldWithFileAndLine) {
