@@ -9,8 +9,10 @@ Program::Program()
     : drives_(core::drivesRoot(settings_)),
       frame_(QStringLiteral("frmFrame")),
       screens_(allScreens()),
-      context_{session_, drives_, settings_, clock_,   random_,
-               sound_,   boxes_,  screens_,  core::applicationFolder(settings_, drives_), &frame_} {
+      context_{session_, drives_,  settings_,
+               clock_,   random_,  sound_,
+               boxes_,   screens_, core::applicationFolder(settings_, drives_),
+               &frame_} {
     screens_.setContext(context_);
     frame_.onCloseRequest = [this] {
         session_.closeDictionary();

@@ -13,7 +13,8 @@ int main(int argc, char** argv) {
     const QString screen = home.filePath(QStringLiteral("screen.json"));
     QFile file(screen);
     if (file.open(QIODevice::WriteOnly))
-        file.write(R"({"synchronousWindowSystemEvents": true, "windowFrameMargins": false, "screens": [{"name": "bench",
+        file.write(
+            R"({"synchronousWindowSystemEvents": true, "windowFrameMargins": false, "screens": [{"name": "bench",
                       "x": 0, "y": 0, "width": 1280, "height": 1024, "logicalDpi": 96, "logicalBaseDpi": 96, "dpr": 1}]})");
     file.close();
     if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM"))
@@ -21,7 +22,9 @@ int main(int argc, char** argv) {
     qputenv("XDG_RUNTIME_DIR", home.path().toUtf8());
     qputenv("SDL_AUDIODRIVER", "dummy");
     platform::Application application(argc, argv);
-    application.onFailure = [](const std::exception& failure) { std::fprintf(stderr, "%s\n", failure.what()); };
+    application.onFailure = [](const std::exception& failure) {
+        std::fprintf(stderr, "%s\n", failure.what());
+    };
     platform::setUpLook();
     benchmark::Initialize(&argc, argv);
     benchmark::RunSpecifiedBenchmarks();

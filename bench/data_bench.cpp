@@ -23,7 +23,8 @@ void takeStep(Desk& desk, int recordNo) {
 /// Fills the master store with ten rows a step, as a course of that many rows would.
 void fillMaster(const Desk& desk, std::int64_t rows) {
     desk.exec(support::masterStore,
-              "with recursive n(i) as (select 0 union all select i+1 from n where i<" + std::to_string(rows - 1) +
+              "with recursive n(i) as (select 0 union all select i+1 from n where i<" +
+                  std::to_string(rows - 1) +
                   ") insert into tovalin1_quiz_data(topicno,recordno,orderno,q1,a1,a2,autono) "
                   "select 1, i/10, i%10+1, 'question', 'answer', '', i from n; "
                   "insert into tovalin1_Basic_Data(topicno,recordno,orderno,word1,word2,autono) "
@@ -49,9 +50,10 @@ void SaveScorePlainSqlite(benchmark::State& state) {
     int score = 0;
     for (auto _ : state) {
         SQLite::Database store(file, SQLite::OPEN_READWRITE);
-        SQLite::Statement update(store,
-                                 "update score set vDate='2026-03-14', vtitle='', s4=? where studentno='1001' and "
-                                 "program='Tovalin1' and recordno=5");
+        SQLite::Statement update(
+            store,
+            "update score set vDate='2026-03-14', vtitle='', s4=? where studentno='1001' and "
+            "program='Tovalin1' and recordno=5");
         update.bind(1, ++score % 101);
         update.exec();
     }
@@ -69,9 +71,11 @@ BENCHMARK(PrepareStep)->Arg(1000)->Arg(100000)->Arg(1000000)->Unit(benchmark::kM
 
 void FindStep(benchmark::State& state) {
     Desk desk;
-    desk.exec(support::courseStore,
-              "with recursive n(i) as (select 1 union all select i+1 from n where i<" + std::to_string(state.range(0)) +
-                  ") insert into tablework(recordno,topicno,pageno,Type,Title) select i,1,i,'Quiz','t' from n");
+    desk.exec(
+        support::courseStore,
+        "with recursive n(i) as (select 1 union all select i+1 from n where i<" +
+            std::to_string(state.range(0)) +
+            ") insert into tablework(recordno,topicno,pageno,Type,Title) select i,1,i,'Quiz','t' from n");
     const auto course = core::openCourse(desk.context());
     for (auto _ : state) {
         auto steps = course.openRecordset(QStringLiteral("Select * from tablework"));
@@ -83,9 +87,10 @@ BENCHMARK(FindStep)->Arg(1000)->Arg(100000)->Arg(1000000)->Unit(benchmark::kMicr
 
 void CheckCompleted(benchmark::State& state) {
     Desk desk;
-    desk.exec(support::scoreStore,
-              "with recursive n(i) as (select 1 union all select i+1 from n where i<" + std::to_string(state.range(0)) +
-                  ") insert into score(recordno,page2,studentno,program,s4) select i,i,'1001','Tovalin1',80 from n");
+    desk.exec(support::scoreStore, "with recursive n(i) as (select 1 union all select i+1 from n where i<" +
+                                       std::to_string(state.range(0)) +
+                                       ") insert into score(recordno,page2,studentno,program,s4) select "
+                                       "i,i,'1001','Tovalin1',80 from n");
     for (auto _ : state)
         course::CheckQuizCompleted(desk.context());
 }

@@ -19,7 +19,8 @@ long proportionalSetSize() {
 }  // namespace
 
 void reportReady() {
-    const double now = std::chrono::duration<double>(std::chrono::system_clock::now().time_since_epoch()).count();
+    const double now =
+        std::chrono::duration<double>(std::chrono::system_clock::now().time_since_epoch()).count();
     const char* start = std::getenv("BENCH_START");
     const double began = start == nullptr ? now : std::strtod(start, nullptr);
     std::printf("%.2f %ld\n", (now - began) * 1000.0, proportionalSetSize());

@@ -16,7 +16,8 @@ class ReadyFilter final : public QObject {
             const core::Screen* table = program_.screens().top();
             const auto* timer = table->findChild<platform::Timer*>(QStringLiteral("TimerGo"));
             if (timer != nullptr && !timer->enabled())
-                QMetaObject::invokeMethod(this, [] { reportReady(); }, Qt::QueuedConnection);
+                QMetaObject::invokeMethod(
+                    this, [] { reportReady(); }, Qt::QueuedConnection);
         }
         return false;
     }

@@ -13,8 +13,10 @@ constexpr int barFrames = 11;
 }  // namespace
 
 LoginPanel::LoginPanel(Context& context) : Screen(context, QStringLiteral("frmLogIn2"), panelSize) {
-    picWait_ = &addPictureButton(QStringLiteral("picWait"), QRect(0, 0, 420, 160), QStringLiteral("Please wait"));
-    picBar_ = &addPictureButton(QStringLiteral("picBar"), QRect(110, 96, 280, 20), QStringLiteral("Progress"));
+    picWait_ =
+        &addPictureButton(QStringLiteral("picWait"), QRect(0, 0, 420, 160), QStringLiteral("Please wait"));
+    picBar_ =
+        &addPictureButton(QStringLiteral("picBar"), QRect(110, 96, 280, 20), QStringLiteral("Progress"));
     for (auto* picture : {picWait_, picBar_})
         picture->setFocusPolicy(Qt::NoFocus);
     addLabel(QStringLiteral("lblShow"), QRect(110, 48, 280, 36), platform::TextRole::Heading,

@@ -118,7 +118,8 @@ QString drivesRoot(const platform::Settings& settings) {
 
 void ShowMainFrame(const Context& context, platform::Frame& frame) {
     const Session& session = context.session;
-    // The icon belongs to the frame's design and not to the course, so a course without it starts all the same.
+    // The icon belongs to the frame's design and not to the course, so a course without it starts all the
+    // same.
     const auto icon = applicationFile(context, QStringLiteral("interface\\icon.jpg"));
     if (FileExists(context, icon.shownName) == 1)
         frame.setWindowIcon(QIcon(platform::loadPicture(icon.file, icon.shownName, 1.0)));

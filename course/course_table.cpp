@@ -58,14 +58,18 @@ CourseTable::CourseTable(core::Context& context) : Screen(context, QStringLitera
 }
 
 void CourseTable::buildHeader() {
-    addLabel(QStringLiteral("lblBookTitle"), QRect(64, 12, 300, 36), TextRole::Title, QStringLiteral("Feskugru"));
-    Label& memo = addLabel(QStringLiteral("lblMemo"), QRect(24, 66, 902, 42), TextRole::Body,
-                           QStringLiteral("학습할 문법 제목을 선택하고, 해당 Unit No를 클릭합니다.  <My Checkpoints>에 나타난 제목을 "
-                                          "클릭하면 학습이 진행됩니다."));
+    addLabel(QStringLiteral("lblBookTitle"), QRect(64, 12, 300, 36), TextRole::Title,
+             QStringLiteral("Feskugru"));
+    Label& memo = addLabel(
+        QStringLiteral("lblMemo"), QRect(24, 66, 902, 42), TextRole::Body,
+        QStringLiteral(
+            "학습할 문법 제목을 선택하고, 해당 Unit No를 클릭합니다.  <My Checkpoints>에 나타난 제목을 "
+            "클릭하면 학습이 진행됩니다."));
     memo.setWordWrap(true);
     for (int i = 0; i < hoverButtonCount; ++i) {
         const HoverButton& button = hoverButtons[i];
-        buttons_[i] = &addPictureButton(QLatin1String(button.name), button.place, QLatin1String(button.spoken));
+        buttons_[i] =
+            &addPictureButton(QLatin1String(button.name), button.place, QLatin1String(button.spoken));
         loadPicture(*buttons_[i], buttonPicture(button.picture, 1));
         buttons_[i]->onMouseMove = [this, i] { buttonHovered(i); };
     }
@@ -123,17 +127,22 @@ void CourseTable::buildRows() {
             clickable->onClick = [this, i] { rowClicked(i); };
             clickable->onMouseMove = [this, i] { rowHovered(i); };
         }
-        PictureButton& star = addPictureButton(picScore_.memberName(i), QRect(884, y - 1, 20, 20), QStringLiteral("Full marks"));
+        PictureButton& star = addPictureButton(picScore_.memberName(i), QRect(884, y - 1, 20, 20),
+                                               QStringLiteral("Full marks"));
         star.setFocusPolicy(Qt::NoFocus);
         loadPicture(star, QStringLiteral("button\\star.jpg"));
         picScore_.add(&star);
     }
     lblCurrentPage_ = &addLabel(QStringLiteral("lblCurrentPage"), QRect(826, 648, 40, 22), TextRole::Caption);
     lblCurrentPage_->setAlignment(Qt::AlignCenter);
-    auto& wait = addPictureButton(QStringLiteral("picWait"), QRect(265, 270, 420, 160), QStringLiteral("Please wait"));
-    auto& bar = addPictureButton(QStringLiteral("picBar"), QRect(375, 366, 280, 20), QStringLiteral("Progress"));
-    Label& show = addLabel(QStringLiteral("lblShow"), QRect(375, 318, 280, 36), TextRole::Heading, QStringLiteral("Please Wait..."));
-    for (QWidget* hidden : {static_cast<QWidget*>(&wait), static_cast<QWidget*>(&bar), static_cast<QWidget*>(&show)})
+    auto& wait =
+        addPictureButton(QStringLiteral("picWait"), QRect(265, 270, 420, 160), QStringLiteral("Please wait"));
+    auto& bar =
+        addPictureButton(QStringLiteral("picBar"), QRect(375, 366, 280, 20), QStringLiteral("Progress"));
+    Label& show = addLabel(QStringLiteral("lblShow"), QRect(375, 318, 280, 36), TextRole::Heading,
+                           QStringLiteral("Please Wait..."));
+    for (QWidget* hidden :
+         {static_cast<QWidget*>(&wait), static_cast<QWidget*>(&bar), static_cast<QWidget*>(&show)})
         hidden->hide();
     const QCursor hand = [this] {
         QWidget probe;
@@ -169,8 +178,9 @@ void CourseTable::firstTick() {
         lblTopic_(i).setCaption(topicRs_.text(QStringLiteral("Title")));
     const platform::Hourglass hourglass;
     s.scoreDb = core::openScores(context());
-    s.scoreRs = s.scoreDb.openRecordset(QStringLiteral("Select * from score where ") + core::learnerCriterion(s) +
-                                        QStringLiteral(" order by recordno desc"));
+    s.scoreRs =
+        s.scoreDb.openRecordset(QStringLiteral("Select * from score where ") + core::learnerCriterion(s) +
+                                QStringLiteral(" order by recordno desc"));
     s.topicNo = s.scoreRs.isEmpty() ? Int16(1) : s.scoreRs.integer(QStringLiteral("datapage"));
     s.scoreRs.close();
     s.scoreDb.close();
@@ -232,8 +242,8 @@ void CourseTable::fillRows(const QString& scoreField) {
 
 void CourseTable::showRowScore(int row, const QString& recordNo, const QString& scoreField) {
     core::Session& s = session();
-    s.scoreRs = s.scoreDb.openRecordset(QStringLiteral("Select * from score where ") + core::learnerCriterion(s) +
-                                        QStringLiteral(" and page2=") + recordNo);
+    s.scoreRs = s.scoreDb.openRecordset(QStringLiteral("Select * from score where ") +
+                                        core::learnerCriterion(s) + QStringLiteral(" and page2=") + recordNo);
     if (s.scoreRs.isEmpty())
         return;
     lblDate_(row).setCaption(s.scoreRs.textOrEmpty(QStringLiteral("vDate")));
@@ -285,7 +295,8 @@ void CourseTable::rowClicked(int index) {
 void CourseTable::readStoredStep() {
     core::Session& s = session();
     s.scoreDb = core::openScores(context());
-    s.scoreRs = s.scoreDb.openRecordset(QStringLiteral("Select * from score where ") + core::learnerStepCriterion(s));
+    s.scoreRs =
+        s.scoreDb.openRecordset(QStringLiteral("Select * from score where ") + core::learnerStepCriterion(s));
     if (s.scoreRs.isEmpty()) {
         s.partDone.fill(QStringLiteral("NO"));
     } else {

@@ -94,7 +94,8 @@ void ShowFormByName(const core::Context& context) {
         if (row->screen.empty())
             finishVideoStep(context);
         else
-            context.navigator.open(QString::fromLatin1(row->screen.data(), static_cast<qsizetype>(row->screen.size())));
+            context.navigator.open(
+                QString::fromLatin1(row->screen.data(), static_cast<qsizetype>(row->screen.size())));
     };
     if (runsVideoFirst(*row, context.session.recordNo))
         context.navigator.open(QStringLiteral("frmVideo_2014"), openScreen);

@@ -46,10 +46,13 @@ void ExerciseScreen::buildChrome(const ChromeLayout& layout) {
         return &button;
     };
     const auto side = [](int top) { return QRect(QPoint(sideLeft, top), sideButton); };
-    picExit_ = add("picExit", "exits", QRect(QPoint(832, 16), topButton), "Exit", &ExerciseScreen::exitClicked);
-    picTable_ = add("picTable", "backs", QRect(QPoint(688, 16), topButton), "Back to table", &ExerciseScreen::tableClicked);
+    picExit_ =
+        add("picExit", "exits", QRect(QPoint(832, 16), topButton), "Exit", &ExerciseScreen::exitClicked);
+    picTable_ = add("picTable", "backs", QRect(QPoint(688, 16), topButton), "Back to table",
+                    &ExerciseScreen::tableClicked);
     if (layout.hasQuiz) {
-        picQuiz_ = add("picQuiz", "quiz", side(layout.quizTop), layout.quizCaption, &ExerciseScreen::quizClicked);
+        picQuiz_ =
+            add("picQuiz", "quiz", side(layout.quizTop), layout.quizCaption, &ExerciseScreen::quizClicked);
         picQuiz_->hide();
     }
     if (layout.hasBegin)
@@ -61,8 +64,9 @@ void ExerciseScreen::buildChrome(const ChromeLayout& layout) {
 
 void ExerciseScreen::buildCaptions(const ChromeLayout& layout) {
     const auto caption = [this](const QString& name, int buttonTop, const char* text) {
-        Label& label = addLabel(name, QRect(sideLeft - 8, buttonTop + sideButton.height() + 2, 120, captionHeight),
-                                TextRole::Caption, QString::fromUtf8(text));
+        Label& label =
+            addLabel(name, QRect(sideLeft - 8, buttonTop + sideButton.height() + 2, 120, captionHeight),
+                     TextRole::Caption, QString::fromUtf8(text));
         label.setAlignment(Qt::AlignCenter);
         return &label;
     };

@@ -127,7 +127,8 @@ Int16 averageScore(const std::array<Int16, core::finalStepLimit>& scores, int co
     if (count < 1 || count > core::finalStepLimit)
         throw platform::RuntimeError(
             platform::Fault::SubscriptOutOfRange,
-            QStringLiteral("Subscript out of range: a Final Quiz keeps scores of at most %1 steps, not of %2.")
+            QStringLiteral(
+                "Subscript out of range: a Final Quiz keeps scores of at most %1 steps, not of %2.")
                 .arg(core::finalStepLimit)
                 .arg(count));
     Int16 sum;

@@ -22,7 +22,8 @@ void endWithBox(const std::exception& failure) {
     std::fflush(stderr);
     while (QApplication::overrideCursor() != nullptr)
         QApplication::restoreOverrideCursor();
-    QMessageBox box(QMessageBox::Critical, defaultBoxTitle(), text, QMessageBox::Ok, QApplication::activeWindow());
+    QMessageBox box(QMessageBox::Critical, defaultBoxTitle(), text, QMessageBox::Ok,
+                    QApplication::activeWindow());
     box.setObjectName(QStringLiteral("errorBox"));
     dressBox(box);
     box.exec();

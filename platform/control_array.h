@@ -27,8 +27,9 @@ class ControlArray {
     /// Throws SubscriptOutOfRange for an index that the form has no control for.
     Control& operator()(int index) const {
         if (index < 0 || index >= size())
-            throw RuntimeError(Fault::SubscriptOutOfRange,
-                               QStringLiteral("Subscript out of range: there is no %1.").arg(memberName(index)));
+            throw RuntimeError(
+                Fault::SubscriptOutOfRange,
+                QStringLiteral("Subscript out of range: there is no %1.").arg(memberName(index)));
         return *controls_[static_cast<std::size_t>(index)];
     }
 

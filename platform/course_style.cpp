@@ -35,7 +35,8 @@ QIcon mark(QRgb colour, const QString& sign) {
 
 CourseStyle::CourseStyle() : QProxyStyle(QStyleFactory::create(QStringLiteral("Fusion"))) {}
 
-QIcon CourseStyle::standardIcon(StandardPixmap icon, const QStyleOption* option, const QWidget* widget) const {
+QIcon CourseStyle::standardIcon(StandardPixmap icon, const QStyleOption* option,
+                                const QWidget* widget) const {
     switch (icon) {
         case SP_MessageBoxInformation: return mark(colour::accent, QStringLiteral("i"));
         case SP_MessageBoxQuestion: return mark(colour::accent, QStringLiteral("?"));

@@ -21,7 +21,8 @@ constexpr int hotSpotOffset = 10;
 QCursor loadCursor(const QString& file, const QString& shownName) {
     QFile opened(file);
     if (!opened.open(QIODevice::ReadOnly))
-        throw RuntimeError(Fault::FileNotFound, QStringLiteral("File not found: '%1' (%2).").arg(shownName, file));
+        throw RuntimeError(Fault::FileNotFound,
+                           QStringLiteral("File not found: '%1' (%2).").arg(shownName, file));
     const QByteArray bytes = opened.readAll();
     QImage image;
     if (bytes.size() < hotSpotOffset + 4 || !image.loadFromData(bytes))

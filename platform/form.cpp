@@ -47,7 +47,8 @@ Form::Form(const QString& name, QSize designSize, QWidget* frame)
                        static_cast<double>(screen.height()) / designSize.height()});
     const QSize size(qRound(designSize.width() * scale_), qRound(designSize.height() * scale_));
     setFixedSize(size);
-    move(screen.x() + (screen.width() - size.width()) / 2, screen.y() + (screen.height() - size.height()) / 2);
+    move(screen.x() + (screen.width() - size.width()) / 2,
+         screen.y() + (screen.height() - size.height()) / 2);
 }
 
 Form::~Form() = default;
@@ -74,8 +75,9 @@ QRect Form::placeOf(const QWidget& control) const {
 void Form::setBackground(const QPixmap& picture, const QString& fileName) {
     const qreal ratio = devicePixelRatioF();
     const QSize pixels = size() * ratio;
-    background_ = picture.size() == pixels ? picture
-                                           : picture.scaled(pixels, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
+    background_ = picture.size() == pixels
+                      ? picture
+                      : picture.scaled(pixels, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
     background_.setDevicePixelRatio(ratio);
     setProperty("picture", fileName);
     update();
@@ -116,7 +118,8 @@ DropList& Form::addDropList(const QString& name, const QRect& designRect, const 
     return *list;
 }
 
-PictureButton& Form::addPictureButton(const QString& name, const QRect& designRect, const QString& spokenName) {
+PictureButton& Form::addPictureButton(const QString& name, const QRect& designRect,
+                                      const QString& spokenName) {
     auto* button = new PictureButton(this);
     button->setObjectName(name);
     button->setAccessibleName(spokenName);
@@ -144,7 +147,8 @@ TextBox& Form::addTextBox(ControlArray<TextBox>& array, const QRect& designRect,
     return box;
 }
 
-CommandButton& Form::addButton(ControlArray<CommandButton>& array, const QRect& designRect, const QString& caption) {
+CommandButton& Form::addButton(ControlArray<CommandButton>& array, const QRect& designRect,
+                               const QString& caption) {
     CommandButton& button = addButton(array.memberName(array.size()), designRect, caption);
     array.add(&button);
     return button;

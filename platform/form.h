@@ -1,7 +1,7 @@
 #pragma once
 
-#include "platform/controls.h"
 #include "platform/control_array.h"
+#include "platform/controls.h"
 
 #include <QPixmap>
 #include <QWidget>
@@ -52,7 +52,8 @@ class Form : public QWidget {
     /// Adds the next member of an array.
     Label& addLabel(ControlArray<Label>& array, const QRect& designRect, TextRole role);
     TextBox& addTextBox(ControlArray<TextBox>& array, const QRect& designRect, TextRole role);
-    CommandButton& addButton(ControlArray<CommandButton>& array, const QRect& designRect, const QString& caption);
+    CommandButton& addButton(ControlArray<CommandButton>& array, const QRect& designRect,
+                             const QString& caption);
 
     /// Takes the form off the screen for good. The object goes when the event in hand is done.
     void unload();

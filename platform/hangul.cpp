@@ -8,15 +8,15 @@ namespace {
 
 // Keys of the two-set keyboard, in the order of Unicode's lists.
 constexpr std::array<const char*, 51> jamoKeys{
-    "r", "R",  "rt", "s",  "sw", "sg", "e",  "E",  "f",  "fr", "fa", "fq", "ft", "fx", "fv", "fg", "a",
-    "q", "Q",  "qt", "t",  "T",  "d",  "w",  "W",  "c",  "z",  "x",  "v",  "g",  "k",  "o",  "i",  "O",
-    "j", "p",  "u",  "P",  "h",  "hk", "ho", "hl", "y",  "n",  "nj", "np", "nl", "b",  "m",  "ml", "l"};
+    "r", "R", "rt", "s", "sw", "sg", "e",  "E",  "f", "fr", "fa", "fq", "ft", "fx", "fv", "fg", "a",
+    "q", "Q", "qt", "t", "T",  "d",  "w",  "W",  "c", "z",  "x",  "v",  "g",  "k",  "o",  "i",  "O",
+    "j", "p", "u",  "P", "h",  "hk", "ho", "hl", "y", "n",  "nj", "np", "nl", "b",  "m",  "ml", "l"};
 constexpr std::array<const char*, 19> leadKeys{"r", "R", "s", "e", "E", "f", "a", "q", "Q", "t",
                                                "T", "d", "w", "W", "c", "z", "x", "v", "g"};
-constexpr std::array<const char*, 21> vowelKeys{"k", "o",  "i",  "O",  "j", "p", "u",  "P",  "h",  "hk", "ho",
+constexpr std::array<const char*, 21> vowelKeys{"k",  "o", "i", "O",  "j",  "p",  "u", "P", "h",  "hk", "ho",
                                                 "hl", "y", "n", "nj", "np", "nl", "b", "m", "ml", "l"};
-constexpr std::array<const char*, 28> tailKeys{"",   "r",  "R",  "rt", "s",  "sw", "sg", "e",  "f", "fr",
-                                               "fa", "fq", "ft", "fx", "fv", "fg", "a",  "q",  "qt", "t",
+constexpr std::array<const char*, 28> tailKeys{"",   "r",  "R",  "rt", "s",  "sw", "sg", "e", "f",  "fr",
+                                               "fa", "fq", "ft", "fx", "fv", "fg", "a",  "q", "qt", "t",
                                                "T",  "d",  "w",  "c",  "z",  "x",  "v",  "g"};
 
 constexpr ushort firstJamo = 0x3131;

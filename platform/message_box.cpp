@@ -27,9 +27,10 @@ void dressBox(QMessageBox& box) {
     // The texts name buttons as "<Begin>", which must not be taken for markup.
     box.setTextFormat(Qt::PlainText);
     // Where no window manager draws a border, the box must still stand out from the paper below.
-    box.setStyleSheet(QStringLiteral("QMessageBox { border: 1px solid #8aa9a6; background: #fffefb; }"
-                                     "QLabel#qt_msgbox_label { min-width: 420px; font-size: 15px; }"
-                                     "QMessageBox QPushButton { min-width: 88px; padding: 6px 10px; }"));
+    box.setStyleSheet(
+        QStringLiteral("QMessageBox { border: 1px solid #8aa9a6; background: #fffefb; }"
+                       "QLabel#qt_msgbox_label { min-width: 420px; font-size: 15px; }"
+                       "QMessageBox QPushButton { min-width: 88px; padding: 6px 10px; }"));
 }
 
 bool DesktopBoxes::show(const Message& message) {

@@ -24,11 +24,15 @@ class MessageBoxes {
     virtual bool show(const Message& message) = 0;
 
     /// A notice with the information icon.
-    void notice(const QString& text, const QString& title = {}) { show({text, BoxIcon::Information, title, false}); }
+    void notice(const QString& text, const QString& title = {}) {
+        show({text, BoxIcon::Information, title, false});
+    }
     /// A message without an icon.
     void plain(const QString& text) { show({text, BoxIcon::None, {}, false}); }
     /// A question with Yes and No.
-    bool ask(const QString& text, const QString& title) { return show({text, BoxIcon::Question, title, true}); }
+    bool ask(const QString& text, const QString& title) {
+        return show({text, BoxIcon::Question, title, true});
+    }
 };
 
 /// Message boxes as windows of the desktop.

@@ -33,18 +33,21 @@ QString denseTwin(const QFileInfo& info) {
 QPixmap loadPicture(const QString& file, const QString& shownName, double pixelRatio) {
     QFileInfo info(file);
     if (!info.isFile())
-        throw RuntimeError(Fault::FileNotFound, QStringLiteral("File not found: '%1' (%2).").arg(shownName, file));
+        throw RuntimeError(Fault::FileNotFound,
+                           QStringLiteral("File not found: '%1' (%2).").arg(shownName, file));
     const bool dense = pixelRatio > 1.0 && QFileInfo::exists(denseTwin(info));
     if (dense)
         info.setFile(denseTwin(info));
     const QString path = info.filePath();
-    if (const auto known = kept().constFind(path); known != kept().constEnd() && known->changed == info.lastModified())
+    if (const auto known = kept().constFind(path);
+        known != kept().constEnd() && known->changed == info.lastModified())
         return known->picture;
     QImageReader reader(path);
     const QImage image = reader.read();
     if (image.isNull())
-        throw RuntimeError(Fault::InvalidPicture,
-                           QStringLiteral("Invalid picture: '%1' (%2).").arg(shownName, reader.errorString()));
+        throw RuntimeError(
+            Fault::InvalidPicture,
+            QStringLiteral("Invalid picture: '%1' (%2).").arg(shownName, reader.errorString()));
     QPixmap picture = QPixmap::fromImage(image);
     if (dense)
         picture.setDevicePixelRatio(2.0);

@@ -7,7 +7,8 @@ namespace platform {
 namespace {
 
 [[noreturn]] void throwNull() {
-    throw RuntimeError(Fault::InvalidUseOfNull, QStringLiteral("Invalid use of Null: the field has no value."));
+    throw RuntimeError(Fault::InvalidUseOfNull,
+                       QStringLiteral("Invalid use of Null: the field has no value."));
 }
 
 }  // namespace

@@ -37,7 +37,8 @@ bool renderFolder(const QDir& from, const QString& to) {
         }
         const QString target = to + u'/' + file.completeBaseName();
         if (file.completeBaseName() == QStringLiteral("hand")) {
-            platform::writeCursor(target + QStringLiteral(".cur"), draw(drawing, 1, Qt::transparent), handHotSpot);
+            platform::writeCursor(target + QStringLiteral(".cur"), draw(drawing, 1, Qt::transparent),
+                                  handHotSpot);
             continue;
         }
         if (!draw(drawing, 1, Qt::white).save(target + QStringLiteral(".jpg"), "JPG", jpegQuality) ||
@@ -57,7 +58,8 @@ int main(int argc, char** argv) {
     QCommandLineParser parser;
     parser.setApplicationDescription(QStringLiteral("Renders the drawings of a folder into pictures."));
     parser.addHelpOption();
-    parser.addPositionalArgument(QStringLiteral("from"), QStringLiteral("Folder with interface/ and button/ drawings."));
+    parser.addPositionalArgument(QStringLiteral("from"),
+                                 QStringLiteral("Folder with interface/ and button/ drawings."));
     parser.addPositionalArgument(QStringLiteral("to"), QStringLiteral("Folder for the pictures."));
     parser.process(application);
     if (parser.positionalArguments().size() != 2)

@@ -23,8 +23,9 @@ struct Subcommand {
 
 /// An import ends with the check of what it made.
 int importAndCheck(const QStringList& args) {
-    return tools::runImport(
-        args, [](const QString& root) { return tools::runCheck({QStringLiteral("--root"), root}); });
+    return tools::runImport(args, [](const QString& root) {
+        return tools::runCheck({QStringLiteral("--root"), root});
+    });
 }
 
 constexpr std::array subcommands{

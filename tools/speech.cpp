@@ -18,7 +18,8 @@ bool speak(const QString& program, const QString& word, const QString& file) {
     QProcess speech;
     speech.start(program, {QStringLiteral("-voice"), QStringLiteral("slt"), QStringLiteral("-t"), word,
                            QStringLiteral("-o"), half});
-    const bool spoken = speech.waitForFinished() && speech.exitStatus() == QProcess::NormalExit && speech.exitCode() == 0;
+    const bool spoken =
+        speech.waitForFinished() && speech.exitStatus() == QProcess::NormalExit && speech.exitCode() == 0;
     Wave wave = readWave(half);
     QFile::remove(half);
     if (!spoken || wave.samples.empty())

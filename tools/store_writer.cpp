@@ -2,8 +2,8 @@
 
 #include "core/schema.h"
 
-#include <QFile>
 #include <SQLiteCpp/SQLiteCpp.h>
+#include <QFile>
 
 #include <cstdio>
 
@@ -50,7 +50,8 @@ void writeTables(const QString& file, const QString& schemaStore, const std::vec
     store.exec("PRAGMA application_id=" + std::to_string(markNumber));
     SQLite::Transaction transaction(store);
     for (const core::TableDefinition& definition : core::tableDefinitions())
-        if (QLatin1String(definition.store.data(), static_cast<qsizetype>(definition.store.size())) == schemaStore)
+        if (QLatin1String(definition.store.data(), static_cast<qsizetype>(definition.store.size())) ==
+            schemaStore)
             for (const QString& statement : core::createStatements(definition))
                 store.exec(statement.toStdString());
     for (const BuiltTable& table : content)

@@ -15,8 +15,8 @@ namespace tools {
 
 namespace {
 
-constexpr int patience = 15000;   // milliseconds until a screen must have come
-constexpr int boxInterval = 15;   // milliseconds between looks for a message box
+constexpr int patience = 15000;  // milliseconds until a screen must have come
+constexpr int boxInterval = 15;  // milliseconds between looks for a message box
 
 bool firstTickDone(const core::Screen& screen) {
     const auto* timer = screen.findChild<platform::Timer*>(QStringLiteral("TimerGo"));
@@ -25,7 +25,8 @@ bool firstTickDone(const core::Screen& screen) {
 
 }  // namespace
 
-TourGuide::TourGuide(app::Program& program, const QString& pictureFolder) : program_(program), folder_(pictureFolder) {
+TourGuide::TourGuide(app::Program& program, const QString& pictureFolder)
+    : program_(program), folder_(pictureFolder) {
     folder_.mkpath(QStringLiteral("."));
     for (const QString& old : folder_.entryList({QStringLiteral("*.png")}, QDir::Files))
         folder_.remove(old);
@@ -35,10 +36,11 @@ TourGuide::TourGuide(app::Program& program, const QString& pictureFolder) : prog
 
 void TourGuide::lost(const QString& sentence) const {
     const core::Screen* top = program_.screens().top();
-    throw std::runtime_error(QStringLiteral("After picture %1, on %2: %3")
-                                 .arg(count_)
-                                 .arg(top != nullptr ? top->objectName() : QStringLiteral("no screen"), sentence)
-                                 .toStdString());
+    throw std::runtime_error(
+        QStringLiteral("After picture %1, on %2: %3")
+            .arg(count_)
+            .arg(top != nullptr ? top->objectName() : QStringLiteral("no screen"), sentence)
+            .toStdString());
 }
 
 core::Screen& TourGuide::screen() const {
@@ -106,8 +108,8 @@ void TourGuide::passWordsAndVideo(const QString& screen) {
 
 void TourGuide::hover(const QString& name) {
     QWidget& widget = control(name);
-    QMouseEvent move(QEvent::MouseMove, widget.rect().center(), widget.mapToGlobal(widget.rect().center()), Qt::NoButton,
-                     Qt::NoButton, Qt::NoModifier);
+    QMouseEvent move(QEvent::MouseMove, widget.rect().center(), widget.mapToGlobal(widget.rect().center()),
+                     Qt::NoButton, Qt::NoButton, Qt::NoModifier);
     QCoreApplication::sendEvent(&widget, &move);
     QCoreApplication::processEvents();
 }
@@ -164,8 +166,8 @@ QImage TourGuide::desktop() const {
         if (screen->isVisible())
             draw(screen);
     for (QWidget* window : windows)
-        if (window->isVisible() && qobject_cast<core::Screen*>(window) == nullptr && window != &program_.frame() &&
-            window->isWindow())
+        if (window->isVisible() && qobject_cast<core::Screen*>(window) == nullptr &&
+            window != &program_.frame() && window->isWindow())
             draw(window);
     return image;
 }

@@ -21,7 +21,8 @@ void useOffscreenDesktop(const QString& folder) {
     const QString screen = folder + QStringLiteral("/screen.json");
     QFile file(screen);
     if (file.open(QIODevice::WriteOnly))
-        file.write(R"({"synchronousWindowSystemEvents": true, "windowFrameMargins": false, "screens": [{"name": "tour",
+        file.write(
+            R"({"synchronousWindowSystemEvents": true, "windowFrameMargins": false, "screens": [{"name": "tour",
                       "x": 0, "y": 0, "width": 1280, "height": 800, "logicalDpi": 96, "logicalBaseDpi": 96, "dpr": 1}]})");
     qputenv("QT_QPA_PLATFORM", "offscreen:configfile=" + screen.toUtf8());
     qputenv("SDL_AUDIODRIVER", "dummy");
@@ -29,7 +30,8 @@ void useOffscreenDesktop(const QString& folder) {
 
 /// The offscreen desktop tells of things it cannot do that nobody here asked for.
 void dropDesktopChatter(QtMsgType type, const QMessageLogContext&, const QString& text) {
-    if (type == QtFatalMsg || type == QtCriticalMsg || !text.startsWith(QStringLiteral("This plugin does not support")))
+    if (type == QtFatalMsg || type == QtCriticalMsg ||
+        !text.startsWith(QStringLiteral("This plugin does not support")))
         std::fprintf(stderr, "%s\n", qPrintable(text));
 }
 
@@ -77,7 +79,8 @@ int main(int argc, char** argv) {
     parser.addHelpOption();
     const QCommandLineOption pictures(QStringLiteral("pictures"), QStringLiteral("Folder for the pictures."),
                                       QStringLiteral("folder"), QStringLiteral("tour"));
-    const QCommandLineOption source(QStringLiteral("source"), QStringLiteral("The checkout, for course and reports."),
+    const QCommandLineOption source(QStringLiteral("source"),
+                                    QStringLiteral("The checkout, for course and reports."),
                                     QStringLiteral("folder"), beside + QStringLiteral("/../../.."));
     parser.addOptions({pictures, source});
     parser.process(application);

@@ -55,7 +55,8 @@ void spellTheWords(TourGuide& guide) {
     guide.click(QStringLiteral("lblTitle"), 0);
     guide.await(QStringLiteral("frmVoca2"));
     guide.picture(QStringLiteral("spelling-coach"));
-    const QStringList words = column(guide, testWordStore, QStringLiteral("Select * from testword"), QStringLiteral("word"));
+    const QStringList words =
+        column(guide, testWordStore, QStringLiteral("Select * from testword"), QStringLiteral("word"));
     guide.control(QStringLiteral("txtWord")).setFocus();
     guide.pictureNextBox(QStringLiteral("spelling-second-chance"));
     for (int miss = 0; miss < 2; ++miss) {
@@ -100,7 +101,8 @@ void takeTheWordQuiz(TourGuide& guide) {
     guide.click(QStringLiteral("picBegin"));
     guide.picture(QStringLiteral("word-quiz"));
     const QStringList words =
-        column(guide, testWordStore, QStringLiteral("Select * from testword2 order by orderno"), QStringLiteral("word"));
+        column(guide, testWordStore, QStringLiteral("Select * from testword2 order by orderno"),
+               QStringLiteral("word"));
     for (qsizetype i = 0; i < words.size(); ++i) {
         const QString number = QString::number(i + 1);
         guide.waitUntil([&] { return guide.as<QLabel>(QStringLiteral("lblNow")).text() == number; },
@@ -135,7 +137,8 @@ void drillThePlurals(TourGuide& guide) {
     guide.await(QStringLiteral("frmLesson"));
     guide.picture(QStringLiteral("drill-study"));
     const QStringList answers =
-        column(guide, courseStore, QStringLiteral("Select * from basic_Data order by orderno"), QStringLiteral("word2"));
+        column(guide, courseStore, QStringLiteral("Select * from basic_Data order by orderno"),
+               QStringLiteral("word2"));
     guide.click(QStringLiteral("picBegin"));
     typeAnswers(guide, answers, {3, 8, 20});
     guide.picture(QStringLiteral("drill-typed"));
@@ -183,12 +186,13 @@ void seeTheQuizzes(TourGuide& guide) {
         const char* screen;
         const char* name;
     };
-    for (const Stop& stop : {Stop{1, 4, "frmQuiz2", "quiz-typed-table"}, Stop{1, 7, "frmQuiz7", "quiz-click-the-word"},
-                             Stop{1, 8, "frmQuiz11", "quiz-pool"}, Stop{1, 18, "frmQuiz4", "quiz-wrong-word"},
-                             Stop{2, 3, "frmQuiz5", "quiz-article-buttons"}, Stop{3, 9, "frmQuiz9", "quiz-two-columns"},
-                             Stop{3, 12, "frmQuiz12", "quiz-pool-without-sound"}, Stop{3, 13, "frmQuiz3", "quiz-two-picks"},
-                             Stop{3, 15, "frmQuiz10", "quiz-words-into-gaps"}, Stop{3, 16, "frmQuiz8", "quiz-four-choices"},
-                             Stop{11, 8, "frmQuiz6", "quiz-whole-sentence"}}) {
+    for (const Stop& stop :
+         {Stop{1, 4, "frmQuiz2", "quiz-typed-table"}, Stop{1, 7, "frmQuiz7", "quiz-click-the-word"},
+          Stop{1, 8, "frmQuiz11", "quiz-pool"}, Stop{1, 18, "frmQuiz4", "quiz-wrong-word"},
+          Stop{2, 3, "frmQuiz5", "quiz-article-buttons"}, Stop{3, 9, "frmQuiz9", "quiz-two-columns"},
+          Stop{3, 12, "frmQuiz12", "quiz-pool-without-sound"}, Stop{3, 13, "frmQuiz3", "quiz-two-picks"},
+          Stop{3, 15, "frmQuiz10", "quiz-words-into-gaps"}, Stop{3, 16, "frmQuiz8", "quiz-four-choices"},
+          Stop{11, 8, "frmQuiz6", "quiz-whole-sentence"}}) {
         visit(guide, stop.unit, stop.row, QLatin1String(stop.screen), QLatin1String(stop.name));
         backToTable(guide);
     }
@@ -236,10 +240,14 @@ void seeVideosAndSheets(TourGuide& guide) {
 
 const std::vector<TourChapter>& tourChapters() {
     static const std::vector<TourChapter> chapters{
-        {"The course table", seeTheTable},        {"Spelling coach", spellTheWords},
-        {"Word matching", matchTheWords},         {"Word quiz", takeTheWordQuiz},
-        {"The step's video", watchTheVideo},      {"The drill", drillThePlurals},
-        {"The quizzes", seeTheQuizzes},           {"The other drills", seeTheOtherDrills},
+        {"The course table", seeTheTable},
+        {"Spelling coach", spellTheWords},
+        {"Word matching", matchTheWords},
+        {"Word quiz", takeTheWordQuiz},
+        {"The step's video", watchTheVideo},
+        {"The drill", drillThePlurals},
+        {"The quizzes", seeTheQuizzes},
+        {"The other drills", seeTheOtherDrills},
         {"Videos and worksheets", seeVideosAndSheets},
     };
     return chapters;

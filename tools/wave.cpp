@@ -61,8 +61,8 @@ bool writeWave(const QString& file, const Wave& wave) {
     stream.writeRawData("RIFF", 4);
     stream << quint32(headerBytes + bytes);
     stream.writeRawData("WAVEfmt ", 8);
-    stream << quint32(16) << quint16(1) << quint16(1) << quint32(wave.rate) << quint32(wave.rate * 2) << quint16(2)
-           << quint16(16);
+    stream << quint32(16) << quint16(1) << quint16(1) << quint32(wave.rate) << quint32(wave.rate * 2)
+           << quint16(2) << quint16(16);
     stream.writeRawData("data", 4);
     stream << bytes;
     for (const std::int16_t sample : wave.samples)

@@ -100,7 +100,8 @@ void VideoMenu::play(const QString& file) {
     // The player opens after this handler; a second click on the way there must not bring up another.
     opening_ = true;
     context().navigator.open(QStringLiteral("frmVideo2"));
-    QMetaObject::invokeMethod(this, [this] { opening_ = false; }, Qt::QueuedConnection);
+    QMetaObject::invokeMethod(
+        this, [this] { opening_ = false; }, Qt::QueuedConnection);
 }
 
 void VideoMenu::topicHovered(int index) {

@@ -179,7 +179,8 @@ TEST(Screens, EveryScreenThatTheCourseNamesHasAMaker) {
     for (const char* name : {"frmLogIn2", "frmTime", "frmTable"})
         EXPECT_TRUE(makers.contains(QLatin1String(name))) << name;
     for (const course::DispatchRow& row : course::dispatchRows()) {
-        const bool opens = row.screen.empty() || makers.contains(QString::fromStdString(std::string(row.screen)));
+        const bool opens =
+            row.screen.empty() || makers.contains(QString::fromStdString(std::string(row.screen)));
         EXPECT_TRUE(opens) << row.screen;
     }
 }

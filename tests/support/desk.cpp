@@ -7,11 +7,11 @@
 #include "tools/store_writer.h"
 #include "tools/wave.h"
 
+#include <SQLiteCpp/SQLiteCpp.h>
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
 #include <QMouseEvent>
-#include <SQLiteCpp/SQLiteCpp.h>
 
 #include <array>
 
@@ -45,7 +45,8 @@ bool firstTickDone(const core::Screen* screen) {
 }
 
 void moveMouse(QWidget& widget, QPoint place) {
-    QMouseEvent event(QEvent::MouseMove, place, widget.mapToGlobal(place), Qt::NoButton, Qt::NoButton, Qt::NoModifier);
+    QMouseEvent event(QEvent::MouseMove, place, widget.mapToGlobal(place), Qt::NoButton, Qt::NoButton,
+                      Qt::NoModifier);
     QCoreApplication::sendEvent(&widget, &event);
 }
 
@@ -86,7 +87,8 @@ QString FakeSettings::read(const QString& application, const QString& section, c
     return found == values.end() ? fallback : found->second;
 }
 
-void FakeSettings::write(const QString& application, const QString& section, const QString& key, const QString& value) {
+void FakeSettings::write(const QString& application, const QString& section, const QString& key,
+                         const QString& value) {
     values[application + u'/' + section + u'/' + key] = value;
 }
 
@@ -115,16 +117,19 @@ QStringList MessageList::texts() const {
     return texts;
 }
 
-Desk::Desk(const QString& userId) : root_(folder_.path()), drives_(std::make_unique<platform::Drives>(root_)) {
+Desk::Desk(const QString& userId)
+    : root_(folder_.path()), drives_(std::make_unique<platform::Drives>(root_)) {
     makeStores();
-    tools::writeStore(file(QStringLiteral("C:\\A_Mendori\\Main\\DbScore_%1.mdb").arg(userId)), QStringLiteral("DbScore"), {});
+    tools::writeStore(file(QStringLiteral("C:\\A_Mendori\\Main\\DbScore_%1.mdb").arg(userId)),
+                      QStringLiteral("DbScore"), {});
     screens_ = std::make_unique<app::ScreenLoop>(app::allScreens());
     frame_ = std::make_unique<QWidget>();
     frame_->setObjectName(QStringLiteral("frmFrame"));
     frame_->resize(1280, 1024);
     frame_->show();
-    context_ = std::make_unique<core::Context>(core::Context{session, *drives_, settings, clock, random, sound, boxes,
-                                                             *screens_, QStringLiteral("D:\\"), frame_.get()});
+    context_ = std::make_unique<core::Context>(core::Context{session, *drives_, settings, clock, random,
+                                                             sound, boxes, *screens_, QStringLiteral("D:\\"),
+                                                             frame_.get()});
     screens_->setContext(*context_);
     session.userId = userId;
     session.userName = QStringLiteral("김하늘");
@@ -153,8 +158,9 @@ Desk::~Desk() {
 
 void Desk::makeStores() {
     const QDir root(root_);
-    for (const char* folder : {"C/A_Mendori/Main", "C/Larkfield/Larkfield2013/Tovalin1", "D/A_Mendori/ABCPicture",
-                               "D/A_Mendori/ABCSound", "D/A_Mendori/Mendori_Program/Tovalin1_Video", "E"})
+    for (const char* folder :
+         {"C/A_Mendori/Main", "C/Larkfield/Larkfield2013/Tovalin1", "D/A_Mendori/ABCPicture",
+          "D/A_Mendori/ABCSound", "D/A_Mendori/Mendori_Program/Tovalin1_Video", "E"})
         root.mkpath(QLatin1String(folder));
     for (const Place& place : stores)
         tools::writeStore(root.filePath(QLatin1String(place.path)), QLatin1String(place.store), {});
@@ -166,7 +172,8 @@ void Desk::makeStores() {
                 root.filePath(QStringLiteral("D/A_Mendori/ABCPicture/Mendori.jpg")));
     // Nobody listens: a test reads the list of sounds, so a moment of silence stands for each effect.
     const tools::Wave silence{22050, std::vector<std::int16_t>(64)};
-    for (const char* effect : {"touchit.wav", "correct.wav", "wrongit.wav", "contestbegin.wav", "finishsong.wav"})
+    for (const char* effect :
+         {"touchit.wav", "correct.wav", "wrongit.wav", "contestbegin.wav", "finishsong.wav"})
         tools::writeWave(root.filePath(QStringLiteral("D/") + QLatin1String(effect)), silence);
 }
 
@@ -201,7 +208,8 @@ core::Screen* Desk::open(const QString& screen) {
 core::Screen* Desk::awaitScreen(const QString& screen) {
     const auto stands = [&] {
         core::Screen* shown = top();
-        return !failure_.isEmpty() || (shown != nullptr && shown->objectName() == screen && firstTickDone(shown));
+        return !failure_.isEmpty() ||
+               (shown != nullptr && shown->objectName() == screen && firstTickDone(shown));
     };
     if (!waitFor(stands) || !failure_.isEmpty())
         return nullptr;
