@@ -1,6 +1,7 @@
 #include "course/score.h"
 
 #include "core/stores.h"
+#include "platform/database.h"
 #include "platform/error.h"
 
 #include <QLatin1String>
@@ -106,12 +107,16 @@ void SaveScore(const core::Context& context) {
     if (session.isFinal() && session.finalBaseRecordNo != session.recordNo)
         session.recordNo = session.finalBaseRecordNo;
     session.scoreDb = core::openScores(context);
+    // Looking and writing are one transaction: a second copy of the program cannot add the same row between
+    // the two.
+    platform::Batch saving(session.scoreDb);
     session.scoreRs = session.scoreDb.openRecordset(QStringLiteral("Select * from score where ") +
                                                     core::learnerStepCriterion(session));
     if (session.scoreRs.isEmpty())
         addRow(session.scoreRs, session);
     else
         updateRow(session.scoreRs, session);
+    saving.commit();
     session.scoreRs.close();
     session.scoreDb.close();
 }

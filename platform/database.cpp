@@ -97,23 +97,23 @@ Connection::Connection(const QString& file, QString shownName) : shownName_(std:
 
 Connection::~Connection() = default;
 
+QString rowQuery(const QString& table) {
+    return QStringLiteral("SELECT * FROM \"%1\" WHERE _rowid_=?").arg(table);
+}
+
 std::shared_ptr<const TableShape> Connection::shape(const QString& table) {
     const QString key = table.toLower();
     if (const auto known = shapes_.constFind(key); known != shapes_.constEnd())
         return *known;
     auto shape = std::make_shared<TableShape>();
     shape->name = table;
-    const auto columns = prepare(QStringLiteral("SELECT name FROM pragma_table_info('%1')").arg(table));
-    guarded([&] {
-        while (columns->executeStep()) {
-            const QString column = QString::fromUtf8(columns->getColumn(0).getText());
-            shape->indexByLowerName.insert(column.toLower(), static_cast<int>(shape->columns.size()));
-            shape->columns.append(column);
-        }
-    });
-    if (shape->columns.isEmpty())
-        throw RuntimeError(Fault::TableNotFound,
-                           QStringLiteral("'%1' has no table '%2'.").arg(shownName_, table));
+    // The statement is the one that the rows will be read with, so that it is made ready only once.
+    const auto row = prepare(rowQuery(table));
+    for (int i = 0; i < row->getColumnCount(); ++i) {
+        const QString column = QString::fromUtf8(row->getColumnName(i));
+        shape->indexByLowerName.insert(column.toLower(), i);
+        shape->columns.append(column);
+    }
     shapes_.insert(key, shape);
     return shape;
 }
@@ -169,6 +169,7 @@ void Connection::rollBack() {
 }
 
 void Connection::translate(const SQLite::Exception& failure) const {
+    static const QString noSuchTable = QStringLiteral("no such table: ");
     const QString reason = QString::fromUtf8(failure.what());
     switch (failure.getErrorCode()) {
         case SQLITE_CORRUPT:
@@ -178,8 +179,10 @@ void Connection::translate(const SQLite::Exception& failure) const {
         case SQLITE_ERROR:
             if (reason.startsWith(QStringLiteral("no such column")))
                 throw RuntimeError(Fault::ItemNotFound, QStringLiteral("'%1': %2.").arg(shownName_, reason));
-            if (reason.startsWith(QStringLiteral("no such table")))
-                throw RuntimeError(Fault::TableNotFound, QStringLiteral("'%1': %2.").arg(shownName_, reason));
+            if (reason.startsWith(noSuchTable))
+                throw RuntimeError(Fault::TableNotFound,
+                                   QStringLiteral("'%1' has no table '%2'.")
+                                       .arg(shownName_, reason.mid(noSuchTable.size())));
             throw RuntimeError(
                 Fault::SyntaxError,
                 QStringLiteral("Syntax error in expression on '%1': %2.").arg(shownName_, reason));

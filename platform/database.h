@@ -61,6 +61,9 @@ class Batch {
     bool done_ = false;
 };
 
+/// The statement text that reads the row of one key.
+QString rowQuery(const QString& table);
+
 /// Columns of a table in their stored order.
 struct TableShape {
     QString name;

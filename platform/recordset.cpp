@@ -3,107 +3,29 @@
 #include "platform/connection_guard.h"
 #include "platform/database.h"
 #include "platform/error.h"
+#include "platform/sql_value.h"
 
 #include <SQLiteCpp/SQLiteCpp.h>
-#include <sqlite3.h>
 
 #include <algorithm>
-#include <limits>
-#include <unordered_map>
-#include <unordered_set>
 #include <utility>
 
 namespace platform {
 
-namespace {
-
-// Sets up to this size know all their members at once; larger ones read on when a move needs it.
-constexpr int eagerMembers = 1000;
-// Below this size, asking row by row beats a search that might have to read the whole table.
-constexpr std::size_t probeLimit = 64;
-
-Value readColumn(const SQLite::Column& column) {
-    switch (column.getType()) {
-        case SQLITE_INTEGER: return {static_cast<std::int64_t>(column.getInt64())};
-        case SQLITE_FLOAT: return {column.getDouble()};
-        case SQLITE_TEXT: return {QString::fromUtf8(column.getText(), column.getBytes())};
-        default: return {};
-    }
-}
-
-void bindValue(SQLite::Statement& statement, int position, const Value& value) {
-    std::visit(
-        [&](const auto& content) {
-            using Content = std::decay_t<decltype(content)>;
-            if constexpr (std::is_same_v<Content, std::monostate>)
-                statement.bind(position);
-            else if constexpr (std::is_same_v<Content, QString>)
-                statement.bind(position, content.toStdString());
-            else
-                statement.bind(position, content);
-        },
-        value.content());
-}
-
-/// "recordno DESC, pageno" turned round.
-QString reversedOrder(const QString& orderBy) {
-    QStringList terms;
-    for (const QString& term : orderBy.split(u',')) {
-        const QString trimmed = term.trimmed();
-        const bool descending = trimmed.endsWith(QStringLiteral(" desc"), Qt::CaseInsensitive);
-        terms.append(descending ? trimmed.chopped(5) : trimmed + QStringLiteral(" DESC"));
-    }
-    return terms.join(QStringLiteral(", "));
-}
-
-}  // namespace
-
 Recordset::Recordset(std::shared_ptr<Connection> connection, Query query)
-    : connection_(std::move(connection)), query_(std::move(query)), shape_(connection_->shape(query_.table)) {
-    complete_ = false;
-    pull(false);
-    if (members_.empty())
+    : connection_(std::move(connection)),
+      shape_(connection_->shape(query.table)),
+      members_(connection_, std::move(query)) {
+    if (members_.isEmpty())
         return;
     settle(0);
     reached_ = 1;
 }
 
-QString Recordset::keyQuery(bool reversed) const {
-    QString sql = QStringLiteral("SELECT _rowid_ FROM \"%1\"").arg(query_.table);
-    if (!query_.where.isEmpty())
-        sql += QStringLiteral(" WHERE (%1)").arg(query_.where);
-    const QString last = reversed ? QStringLiteral("_rowid_ DESC") : QStringLiteral("_rowid_");
-    if (query_.orderBy.isEmpty())
-        return sql + QStringLiteral(" ORDER BY ") + last;
-    return sql + QStringLiteral(" ORDER BY %1, %2")
-                     .arg(reversed ? reversedOrder(query_.orderBy) : query_.orderBy, last);
-}
-
-void Recordset::pull(bool all) {
-    if (complete_)
-        return;
-    connection_->guarded([&] {
-        const auto statement = connection_->prepare(keyQuery(false) + QStringLiteral(" LIMIT ?"));
-        statement->bind(1, all ? -1 : eagerMembers + 1);
-        // Rows may have come and gone since the first ones were read, so the known ones are told by their
-        // keys.
-        std::unordered_set<std::int64_t> known;
-        for (const Member& member : members_)
-            known.insert(member.key);
-        while (statement->executeStep())
-            if (const std::int64_t key = statement->getColumn(0).getInt64(); !known.contains(key)) {
-                members_.push_back({key, false});
-                ++liveCount_;
-            }
-        complete_ = all || members_.size() <= static_cast<std::size_t>(eagerMembers);
-        statement->reset();
-    });
-}
-
 void Recordset::settle(std::size_t index) {
     dropEdit();
     index_ = index;
-    key_ = members_[index].key;
+    key_ = members_.keyAt(index);
     place_ = Place::At;
     reached_ = std::max(reached_, index + 1);
 }
@@ -127,39 +49,28 @@ void Recordset::requireOpen() const {
 
 void Recordset::moveFirst() {
     requireOpen();
-    for (std::size_t i = 0; i < members_.size(); ++i)
-        if (!members_[i].gone)
-            return settle(i);
+    if (const auto first = members_.nextLive(0))
+        return settle(*first);
     throw RuntimeError(Fault::NoCurrentRecord,
                        QStringLiteral("No current record: there is no row in %1.").arg(description()));
 }
 
 void Recordset::moveLast() {
     requireOpen();
-    if (isEmptyNow())
+    if (members_.isEmpty())
         moveFirst();
     reachedAll_ = true;
-    if (!complete_) {
-        connection_->guarded([&] {
-            const auto statement = connection_->prepare(keyQuery(true) + QStringLiteral(" LIMIT 1"));
-            if (statement->executeStep())
-                jump(statement->getColumn(0).getInt64());
-            statement->reset();
-        });
-        return;
-    }
-    std::size_t last = members_.size() - 1;
-    while (members_[last].gone)
-        --last;
-    settle(last);
+    if (members_.isComplete())
+        settle(members_.lastLive());
+    else if (const auto key = members_.lastKeyInStore())
+        jump(*key);
 }
 
 std::size_t Recordset::currentIndex() {
     if (!index_) {
-        pull(true);
-        const auto found = std::find_if(members_.begin(), members_.end(),
-                                        [&](const Member& member) { return member.key == key_; });
-        index_ = static_cast<std::size_t>(found - members_.begin());
+        members_.readAll();
+        // A row that another set has deleted meanwhile has no place: what follows is the end.
+        index_ = members_.indexOf(key_).value_or(members_.size());
     }
     return *index_;
 }
@@ -171,13 +82,8 @@ void Recordset::moveNext() {
     if (place_ == Place::After)
         throw RuntimeError(Fault::NoCurrentRecord,
                            QStringLiteral("No current record: past the last row of %1.").arg(description()));
-    std::size_t next = currentIndex() + 1;
-    if (next >= members_.size())
-        pull(true);
-    while (next < members_.size() && members_[next].gone)
-        ++next;
-    if (next < members_.size())
-        return settle(next);
+    if (const auto next = members_.nextLive(currentIndex() + 1))
+        return settle(*next);
     dropEdit();
     place_ = Place::After;
 }
@@ -189,85 +95,20 @@ void Recordset::move(int rows) {
 }
 
 int Recordset::recordCount() const {
-    if (isEmptyNow())
+    if (members_.isEmpty())
         return 0;
-    if (!reachedAll_)
-        return static_cast<int>(std::min(reached_, liveCount_));
-    if (complete_)
-        return static_cast<int>(liveCount_);
-    return connection_->guarded([&] {
-        QString sql = QStringLiteral("SELECT COUNT(*) FROM \"%1\"").arg(query_.table);
-        if (!query_.where.isEmpty())
-            sql += QStringLiteral(" WHERE (%1)").arg(query_.where);
-        const auto statement = connection_->prepare(sql);
-        statement->executeStep();
-        const int count = statement->getColumn(0).getInt();
-        statement->reset();
-        return count;
-    });
+    return static_cast<int>(reachedAll_ ? members_.totalCount() : std::min(reached_, members_.liveCount()));
 }
 
 void Recordset::findFirst(const QString& criterion) {
     requireOpen();
-    const auto key = complete_ && members_.size() <= probeLimit ? probe(criterion) : search(criterion);
+    const auto key = members_.find(criterion);
     noMatch_ = !key.has_value();
     if (noMatch_)
         return;
-    const auto known = std::find_if(members_.begin(), members_.end(),
-                                    [&](const Member& member) { return member.key == *key; });
-    if (known != members_.end())
-        return settle(static_cast<std::size_t>(known - members_.begin()));
+    if (const auto known = members_.indexOf(*key))
+        return settle(*known);
     jump(*key);
-}
-
-std::optional<std::int64_t> Recordset::probe(const QString& criterion) {
-    return connection_->guarded([&]() -> std::optional<std::int64_t> {
-        // Not kept for reuse: criteria carry what a learner typed and are hardly ever asked twice.
-        SQLite::Statement statement(connection_->sqlite(),
-                                    QStringLiteral("SELECT 1 FROM \"%1\" WHERE _rowid_=?1 AND (%2)")
-                                        .arg(query_.table, criterion)
-                                        .toStdString());
-        for (const Member& member : members_) {
-            if (member.gone)
-                continue;
-            statement.bind(1, member.key);
-            const bool holds = statement.executeStep();
-            statement.reset();
-            if (holds)
-                return member.key;
-        }
-        return std::nullopt;
-    });
-}
-
-std::optional<std::int64_t> Recordset::search(const QString& criterion) {
-    return connection_->guarded([&]() -> std::optional<std::int64_t> {
-        Query narrowed = query_;
-        narrowed.where =
-            query_.where.isEmpty() ? criterion : QStringLiteral("(%1) AND (%2)").arg(query_.where, criterion);
-        std::swap(narrowed, query_);
-        const QString sql = keyQuery(false);
-        std::swap(narrowed, query_);
-        SQLite::Statement statement(connection_->sqlite(), sql.toStdString());
-        std::optional<std::int64_t> first;
-        if (!complete_) {
-            if (statement.executeStep())
-                first = statement.getColumn(0).getInt64();
-            return first;
-        }
-        std::unordered_map<std::int64_t, std::size_t> places;
-        for (std::size_t i = 0; i < members_.size(); ++i)
-            if (!members_[i].gone)
-                places.emplace(members_[i].key, i);
-        std::size_t best = std::numeric_limits<std::size_t>::max();
-        while (statement.executeStep())
-            if (const auto place = places.find(statement.getColumn(0).getInt64());
-                place != places.end() && place->second < best) {
-                best = place->second;
-                first = place->first;
-            }
-        return first;
-    });
 }
 
 void Recordset::edit() {
@@ -301,21 +142,18 @@ void Recordset::insertRow() {
         marks.append(QStringLiteral("?"));
     }
     const QString sql = columns.isEmpty()
-                            ? QStringLiteral("INSERT INTO \"%1\" DEFAULT VALUES").arg(query_.table)
+                            ? QStringLiteral("INSERT INTO \"%1\" DEFAULT VALUES").arg(query().table)
                             : QStringLiteral("INSERT INTO \"%1\" (%2) VALUES (%3)")
-                                  .arg(query_.table, columns.join(u','), marks.join(u','));
+                                  .arg(query().table, columns.join(u','), marks.join(u','));
     connection_->guarded([&] {
         const auto statement = connection_->prepare(sql);
         int position = 0;
         for (const auto& [index, value] : pending_)
             bindValue(*statement, ++position, value);
         statement->exec();
-        if (complete_) {
-            members_.push_back({connection_->sqlite().getLastInsertRowid(), false});
-            ++liveCount_;
-        }
+        members_.append(connection_->sqlite().getLastInsertRowid());
     });
-    if (place_ == Place::After && liveCount_ == 1)
+    if (place_ == Place::After && members_.liveCount() == 1)
         place_ = Place::Before;
     reached_ = std::max<std::size_t>(reached_, 1);
 }
@@ -332,8 +170,8 @@ void Recordset::updateRow() {
     for (const auto& [index, value] : pending_)
         assignments.append(QStringLiteral("\"%1\"=?").arg(shape_->columns[index]));
     connection_->guarded([&] {
-        const auto statement = connection_->prepare(
-            QStringLiteral("UPDATE \"%1\" SET %2 WHERE _rowid_=?").arg(query_.table, assignments.join(u',')));
+        const auto statement = connection_->prepare(QStringLiteral("UPDATE \"%1\" SET %2 WHERE _rowid_=?")
+                                                        .arg(query().table, assignments.join(u',')));
         int position = 0;
         for (const auto& [index, value] : pending_)
             bindValue(*statement, ++position, value);
@@ -344,17 +182,16 @@ void Recordset::updateRow() {
 
 void Recordset::remove() {
     requireCurrent();
-    pull(true);
+    members_.readAll();
     const std::size_t index = currentIndex();
     dropEdit();
     connection_->guarded([&] {
         const auto statement =
-            connection_->prepare(QStringLiteral("DELETE FROM \"%1\" WHERE _rowid_=?").arg(query_.table));
+            connection_->prepare(QStringLiteral("DELETE FROM \"%1\" WHERE _rowid_=?").arg(query().table));
         statement->bind(1, key_);
         statement->exec();
     });
-    members_[index].gone = true;
-    --liveCount_;
+    members_.markGone(index);
     place_ = Place::Gone;
 }
 
@@ -406,8 +243,7 @@ void Recordset::fetch() const {
     if (rowKey_ == key_ && rowChanges_ == connection_->totalChanges() && !row_.empty())
         return;
     connection_->guarded([&] {
-        const auto statement =
-            connection_->prepare(QStringLiteral("SELECT * FROM \"%1\" WHERE _rowid_=?").arg(query_.table));
+        const auto statement = connection_->prepare(rowQuery(query().table));
         statement->bind(1, key_);
         if (!statement->executeStep())
             throw RuntimeError(
@@ -466,9 +302,9 @@ void Recordset::set(int index, const Value& value) {
 QString Recordset::description() const {
     if (!connection_)
         return QStringLiteral("a set that is not open");
-    QString text = QStringLiteral("table '%1' of '%2'").arg(query_.table, connection_->shownName());
-    if (!query_.where.isEmpty())
-        text += QStringLiteral(" where ") + query_.where;
+    QString text = QStringLiteral("table '%1' of '%2'").arg(query().table, connection_->shownName());
+    if (!query().where.isEmpty())
+        text += QStringLiteral(" where ") + query().where;
     return text;
 }
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/query.h"
+#include "platform/member_list.h"
 #include "platform/value.h"
 
 #include <QString>
@@ -30,8 +30,8 @@ class Recordset {
     Recordset(std::shared_ptr<Connection> connection, Query query);
 
     bool isOpen() const { return connection_ != nullptr; }
-    bool bof() const { return place_ == Place::Before || isEmptyNow(); }
-    bool eof() const { return place_ == Place::After || isEmptyNow(); }
+    bool bof() const { return place_ == Place::Before || members_.isEmpty(); }
+    bool eof() const { return place_ == Place::After || members_.isEmpty(); }
     bool isEmpty() const { return bof() && eof(); }
 
     /// Throw NoCurrentRecord on a set without rows.
@@ -83,22 +83,14 @@ class Recordset {
    private:
     enum class Place { Before, At, Gone, After };
     enum class Mode { Read, Edit, Add };
-    struct Member {
-        std::int64_t key = 0;
-        bool gone = false;
-    };
 
-    void pull(bool all);
-    bool isEmptyNow() const { return members_.empty() || liveCount_ == 0; }
+    const Query& query() const { return members_.query(); }
     void settle(std::size_t index);
     /// Goes to a row whose place among the members is not known yet.
     void jump(std::int64_t key);
     void dropEdit();
     void requireOpen() const;
     std::size_t currentIndex();
-    QString keyQuery(bool reversed) const;
-    std::optional<std::int64_t> probe(const QString& criterion);
-    std::optional<std::int64_t> search(const QString& criterion);
     int fieldIndex(const QString& field) const;
     void fetch() const;
     void insertRow();
@@ -108,11 +100,8 @@ class Recordset {
     auto explain(const QString& field, Read read) const;
 
     std::shared_ptr<Connection> connection_;
-    Query query_;
     std::shared_ptr<const TableShape> shape_;
-    std::vector<Member> members_;
-    std::size_t liveCount_ = 0;
-    bool complete_ = true;
+    MemberList members_;
     Place place_ = Place::After;
     std::int64_t key_ = 0;
     std::optional<std::size_t> index_;  // unknown after a jump inside a set not yet read to its end

@@ -1,6 +1,7 @@
 #include "tools/store_writer.h"
 
 #include "core/schema.h"
+#include "platform/sql_value.h"
 
 #include <SQLiteCpp/SQLiteCpp.h>
 #include <QFile>
@@ -12,20 +13,6 @@ namespace tools {
 namespace {
 
 constexpr int markNumber = 0x4D6E6472;
-
-void bindValue(SQLite::Statement& statement, int position, const platform::Value& value) {
-    std::visit(
-        [&](const auto& content) {
-            using Content = std::decay_t<decltype(content)>;
-            if constexpr (std::is_same_v<Content, std::monostate>)
-                statement.bind(position);
-            else if constexpr (std::is_same_v<Content, QString>)
-                statement.bind(position, content.toStdString());
-            else
-                statement.bind(position, content);
-        },
-        value.content());
-}
 
 void fill(SQLite::Database& store, const BuiltTable& table) {
     QStringList marks;
@@ -39,7 +26,7 @@ void fill(SQLite::Database& store, const BuiltTable& table) {
                                         .toStdString());
     for (const BuiltRow& row : table.rows) {
         for (std::size_t i = 0; i < row.values.size(); ++i)
-            bindValue(insert, static_cast<int>(i) + 1, row.values[i]);
+            platform::bindValue(insert, static_cast<int>(i) + 1, row.values[i]);
         insert.exec();
         insert.reset();
     }
