@@ -3,6 +3,7 @@
 #include "core/play_sound.h"
 #include "core/stores.h"
 #include "course/walk.h"
+#include "lessons/box_keys.h"
 
 namespace lessons {
 
@@ -324,39 +325,12 @@ void DrillForm::goToNextListed(int box) {
 }
 
 void DrillForm::keyDown(int box, int code) {
-    if (code == platform::key::home || code == platform::key::end) {
-        moveToEnds(box, code);
-        return;
+    if (code == platform::key::enter) {
+        if (box < boxCount() - 1)
+            enterPressed(box);
+    } else if (const auto target = boxByKey(txtWord(box), box, boxCount(), code)) {
+        goTo(*target);
     }
-    if (box >= boxCount() - 1)
-        return;
-    switch (code) {
-        case platform::key::enter: enterPressed(box); break;
-        case platform::key::left:
-        case platform::key::up:
-        case platform::key::pageUp:
-            if (box > 0)
-                goTo(box - 1);
-            break;
-        default: moveOn(box, code);
-    }
-}
-
-void DrillForm::moveOn(int box, int code) {
-    const TextBox& here = txtWord(box);
-    const bool atEdge = here.cursorPosition() == here.text().size() || here.selectedText() == here.text();
-    const bool goes = code == platform::key::down || code == platform::key::pageDown ||
-                      (code == platform::key::right && atEdge);
-    if (goes)
-        goTo(box + 1);
-}
-
-void DrillForm::moveToEnds(int box, int code) {
-    const TextBox& here = txtWord(box);
-    const bool allSelected = here.selectedText() == here.text();
-    const auto edge = code == platform::key::home ? 0 : here.text().size();
-    if ((allSelected || here.cursorPosition() == edge) && boxCount() > 0)
-        goTo(code == platform::key::home ? 0 : boxCount() - 1);
 }
 
 void DrillForm::close(const ClosedSets& sets) {

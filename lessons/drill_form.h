@@ -68,9 +68,6 @@ class DrillForm : public course::ExerciseScreen {
     void buildGrid();
     void buildBox(const GridBlock& block, int n);
     void keyDown(int box, int code);
-    /// Left, up and page up always go to the box before; their counterparts leave a box at its text's edge.
-    void moveOn(int box, int code);
-    void moveToEnds(int box, int code);
     void readTip();
     void readRules();
     void readSecondList();
