@@ -2,6 +2,7 @@
 
 #include "core/play_sound.h"
 #include "core/stores.h"
+#include "course/score.h"
 #include "course/walk.h"
 #include "lessons/box_keys.h"
 
@@ -298,6 +299,11 @@ void DrillForm::setBox(int box, const QString& text, QRgb foreColor, platform::B
 void DrillForm::blankAllBoxes() {
     for (int i = 0; i < boxCount(); ++i)
         txtWord(i).setText(QString());
+}
+
+void DrillForm::saveFullMarks() {
+    session().scoreValue = 100;
+    course::SaveScore(context());
 }
 
 void DrillForm::showCompletion() {

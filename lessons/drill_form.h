@@ -53,6 +53,8 @@ class DrillForm : public course::ExerciseScreen {
     void setBox(int box, const QString& text, QRgb foreColor,
                 platform::BoxMark mark = platform::BoxMark::None);
     void blankAllBoxes();
+    /// The only score a drill can have, stored for the step in hand.
+    void saveFullMarks();
     /// Tells that the drill is done.
     void showCompletion();
 
