@@ -110,8 +110,8 @@ void DrillForm::buildBox(const GridBlock& block, int n) {
     box.setEnabled(!drill_.countsRows);
     if (!drill_.countsRows)
         box.setText(sampleAnswer);
-    // A sign stands for the answer it was given for.
-    box.onChange = [&box] { box.setMark(platform::BoxMark::None); };
+    // A sign stands for the answer it was given for; a box that stays locked goes on telling that it is.
+    box.onChange = [&box] { box.setMark(box.locked() ? platform::BoxMark::Given : platform::BoxMark::None); };
     box.onKeyDown = [this, index](int code) { keyDown(index, code); };
 }
 
