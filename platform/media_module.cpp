@@ -61,8 +61,17 @@ class Player final : public platform::MediaPlayer {
         });
     }
 
-    void play() override { player_.play(); }
-    void pause() override { player_.pause(); }
+    void play() override {
+        holdWhenRunning(false);
+        player_.play();
+    }
+    void pause() override {
+        // Paused before it has begun to run, the back end may never move on again.
+        if (player_.position() > 0)
+            player_.pause();
+        else
+            holdWhenRunning(true);
+    }
     void seek(qint64 milliseconds) override {
         player_.setPosition(std::clamp<qint64>(milliseconds, 0, std::max<qint64>(0, duration())));
     }
@@ -72,8 +81,8 @@ class Player final : public platform::MediaPlayer {
             return MediaState::Ended;
         if (!started_)
             return MediaState::Loading;
-        return player_.playbackState() == QMediaPlayer::PlayingState ? MediaState::Playing
-                                                                     : MediaState::Paused;
+        return player_.playbackState() == QMediaPlayer::PlayingState && !holds_ ? MediaState::Playing
+                                                                                : MediaState::Paused;
     }
     qint64 position() const override { return player_.position(); }
     qint64 duration() const override { return player_.duration(); }
@@ -91,9 +100,18 @@ class Player final : public platform::MediaPlayer {
         if (first)
             progressed();
     }
+    void holdWhenRunning(bool holds) {
+        holds_ = holds;
+        audio_.setMuted(holds);
+    }
     void progressed() {
-        if (!quiet_)
-            listener_.mediaProgressed();
+        if (quiet_)
+            return;
+        if (holds_ && player_.position() > 0) {
+            holdWhenRunning(false);
+            player_.pause();
+        }
+        listener_.mediaProgressed();
     }
     void fail(const QString& reason) {
         if (quiet_)
@@ -118,6 +136,7 @@ class Player final : public platform::MediaPlayer {
     QMediaPlayer player_;
     bool started_ = false;
     bool quiet_ = false;
+    bool holds_ = false;  // to be paused as soon as it runs
 };
 
 void endRetired() {

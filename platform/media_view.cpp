@@ -70,6 +70,7 @@ MediaView::~MediaView() = default;
 void MediaView::setUrl(const QString& url) {
     stop();
     url_ = url;
+    held_ = false;
     // The window comes up first: the first start of the media libraries takes longer than painting it.
     QMetaObject::invokeMethod(
         this,
@@ -88,6 +89,8 @@ void MediaView::start() {
     }
     player_.reset(mediaModule()(file, *this));
     player_->setVolume(volume_);
+    if (held_)
+        player_->pause();
     patience_.start();
 }
 
@@ -107,12 +110,20 @@ void MediaView::clearFailure() {
 }
 
 void MediaView::togglePlaying() {
-    if (!player_)
+    if (hasFailed() || url_.isEmpty())
         return;
-    if (state() == MediaState::Playing)
+    // Before the first picture the wish is kept: the video then comes up paused.
+    held_ = isPlaying();
+    if (!player_) {
+        mediaProgressed();
+        return;
+    }
+    if (held_)
         player_->pause();
     else
         player_->play();
+    if (state() == MediaState::Loading)
+        mediaProgressed();
 }
 
 void MediaView::seek(qint64 milliseconds) {
@@ -128,6 +139,11 @@ void MediaView::setVolume(double volume) {
 
 MediaState MediaView::state() const {
     return player_ ? player_->state() : MediaState::Loading;
+}
+
+bool MediaView::isPlaying() const {
+    const MediaState now = state();
+    return now == MediaState::Playing || (now == MediaState::Loading && !held_);
 }
 
 qint64 MediaView::position() const {

@@ -31,6 +31,8 @@ class MediaView final : public QWidget, private MediaListener {
     void seek(qint64 milliseconds);
     void setVolume(double volume);
     MediaState state() const;
+    /// Whether it plays or, before the first picture, is about to.
+    bool isPlaying() const;
     qint64 position() const;
     qint64 duration() const;
     bool hasFailed() const { return !failure_.isEmpty(); }
@@ -60,6 +62,7 @@ class MediaView final : public QWidget, private MediaListener {
     QString failure_;
     QImage picture_;
     double volume_ = 1.0;
+    bool held_ = false;  // paused by the learner, maybe before there was anything to pause
     QTimer patience_;
     QLabel* lblFailure_;
     struct Retire {

@@ -2,12 +2,12 @@
 
 #include <QBoxLayout>
 #include <QKeyEvent>
+#include <QMouseEvent>
 #include <QScreen>
 #include <QStyle>
 
 namespace video {
 
-using platform::MediaState;
 using platform::TextRole;
 
 namespace {
@@ -16,6 +16,21 @@ constexpr QSize playerSize(800, 600);
 constexpr QSize smallestSize(360, 280);
 constexpr int volumeSteps = 20;
 constexpr qint64 seekStep = 5000;
+
+/// A bar whose handle comes to where it is clicked, not a step towards it, and can be dragged on from there.
+class JumpBar final : public QSlider {
+   public:
+    explicit JumpBar(QWidget* parent) : QSlider(Qt::Horizontal, parent) {}
+
+   protected:
+    void mousePressEvent(QMouseEvent* event) override {
+        const int handle = style()->pixelMetric(QStyle::PM_SliderLength, nullptr, this);
+        if (event->button() == Qt::LeftButton)
+            setValue(QStyle::sliderValueFromPosition(
+                minimum(), maximum(), event->position().toPoint().x() - handle / 2, width() - handle));
+        QSlider::mousePressEvent(event);
+    }
+};
 
 }  // namespace
 
@@ -94,7 +109,7 @@ QToolButton* PlayerWindow::addBarButton(QWidget& bar, const QString& name, const
 }
 
 QSlider* PlayerWindow::addBarSlider(QWidget& bar, const QString& name, const QString& spoken, int maximum) {
-    auto* slider = new QSlider(Qt::Horizontal, &bar);
+    auto* slider = new JumpBar(&bar);
     slider->setObjectName(name);
     slider->setAccessibleName(spoken);
     slider->setFocusPolicy(Qt::TabFocus);
@@ -104,8 +119,8 @@ QSlider* PlayerWindow::addBarSlider(QWidget& bar, const QString& name, const QSt
 }
 
 void PlayerWindow::progressed() {
-    const bool playing = web1_->state() == MediaState::Playing;
-    cmdPlay_->setIcon(style()->standardIcon(playing ? QStyle::SP_MediaPause : QStyle::SP_MediaPlay));
+    cmdPlay_->setIcon(
+        style()->standardIcon(web1_->isPlaying() ? QStyle::SP_MediaPause : QStyle::SP_MediaPlay));
     const bool usable = !web1_->hasFailed();
     for (QWidget* control : {static_cast<QWidget*>(cmdPlay_), static_cast<QWidget*>(sldSeek_)})
         control->setEnabled(usable);

@@ -27,6 +27,16 @@ class Player : public testing::Test {
         return waitFor([&] { return view().state() == state; }, 15000);
     }
     QSlider& slider(const char* name) const { return find<QSlider>(player, QLatin1String(name)); }
+    /// Whether the position stays where it is once the player has come to rest.
+    bool standsStill() const {
+        QTest::qWait(500);
+        const qint64 stopped = view().position();
+        return !waitFor([&] { return view().position() != stopped; }, 500);
+    }
+    bool runsOn() const {
+        const qint64 begun = view().position();
+        return waitFor([&] { return view().position() > begun + 200; }, 15000);
+    }
     void press(int key) const { QTest::keyClick(player, static_cast<Qt::Key>(key)); }
 
     VideoDesk desk;
@@ -57,6 +67,51 @@ TEST_F(Player, SpacePausesAndPlaysOn) {
     EXPECT_TRUE(waitFor([&] { return view().position() > stopped; }));
 }
 
+TEST_F(Player, SpaceAtTheFirstPicturePausesAndPlaysOn) {
+    playRealVideo(20.0);
+    press(Qt::Key_Space);
+    ASSERT_TRUE(reaches(MediaState::Paused));
+    EXPECT_TRUE(standsStill());
+    press(Qt::Key_Space);
+    EXPECT_TRUE(reaches(MediaState::Playing));
+    EXPECT_TRUE(runsOn());
+}
+
+TEST_F(Player, SpaceBeforeTheFirstPictureHoldsTheVideoUntilTheNextOne) {
+    desk.makeVideo(1, 20.0);
+    play(1);
+    ASSERT_TRUE(view().picture().isNull());
+    press(Qt::Key_Space);
+    EXPECT_FALSE(view().isPlaying());
+    ASSERT_TRUE(VideoDesk::showsPicture(player));
+    ASSERT_TRUE(reaches(MediaState::Paused));
+    EXPECT_TRUE(standsStill());
+    press(Qt::Key_Space);
+    EXPECT_TRUE(reaches(MediaState::Playing));
+    EXPECT_TRUE(runsOn());
+}
+
+TEST_F(Player, TwoSpacesBeforeTheFirstPictureLetTheVideoPlay) {
+    desk.makeVideo(1, 20.0);
+    play(1);
+    press(Qt::Key_Space);
+    press(Qt::Key_Space);
+    EXPECT_TRUE(view().isPlaying());
+    EXPECT_TRUE(runsOn());
+}
+
+TEST_F(Player, SpaceWhileTheFileIsBeingOpenedHoldsTheVideoToo) {
+    desk.makeVideo(1, 20.0);
+    play(1);
+    settle();
+    press(Qt::Key_Space);
+    ASSERT_TRUE(VideoDesk::showsPicture(player));
+    ASSERT_TRUE(reaches(MediaState::Paused));
+    EXPECT_TRUE(standsStill());
+    press(Qt::Key_Space);
+    EXPECT_TRUE(runsOn());
+}
+
 TEST_F(Player, TheEndedVideoKeepsItsWindowAndSpacePlaysItAgain) {
     playRealVideo(1.0);
     ASSERT_TRUE(reaches(MediaState::Ended));
@@ -80,6 +135,14 @@ TEST_F(Player, TheBarAndTheArrowKeysSeek) {
     press(Qt::Key_Right);
     EXPECT_TRUE(waitFor([&] { return view().position() >= 17000; }));
     EXPECT_TRUE(waitFor([&] { return slider("sldSeek").value() >= 17000; }));
+}
+
+TEST_F(Player, AClickOnTheBarJumpsToItsPlace) {
+    playRealVideo(30.0);
+    ASSERT_TRUE(waitFor([&] { return view().duration() > 29000; }));
+    QSlider& bar = slider("sldSeek");
+    QTest::mouseClick(&bar, Qt::LeftButton, {}, QPoint(bar.width() * 2 / 3, bar.height() / 2));
+    EXPECT_TRUE(waitFor([&] { return view().position() >= 17000; }));
 }
 
 TEST_F(Player, UpAndDownChangeTheVolumeWithinItsBounds) {
