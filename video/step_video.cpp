@@ -41,7 +41,7 @@ StepVideo::StepVideo(core::Context& context)
 void StepVideo::loadStep(StoryBox& story) {
     const Tips tips = readTips(context(), QStringLiteral("recordno=%1").arg(session().recordNo));
     story.setText(tips.story);
-    session().videoFile = stepVideoFile(session().videoRoot, tips.videoNumber);
+    session().videoFile = stepVideoFile(session().videoRoot, tips.videoNumber.toInt16());
     timer1_->setEnabled(true);
 }
 

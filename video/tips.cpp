@@ -9,7 +9,7 @@ Tips readTips(const core::Context& context, const QString& criterion) {
     auto rows = master.openRecordset(QStringLiteral("Select * from tovalin1_gram_tip where ") + criterion);
     Tips tips;
     if (!rows.isEmpty())
-        tips.videoNumber = rows.integer(QStringLiteral("autono"));
+        tips.videoNumber = rows.value(QStringLiteral("autono"));
     for (; !rows.eof(); rows.moveNext())
         tips.story += rows.textOrEmpty(QStringLiteral("tips")) + QStringLiteral("\n\n");
     rows.close();

@@ -74,6 +74,13 @@ TEST_F(VideoMenu, AUnitWithoutTipsEmptiesTheBoxAndPlaysAllTheSame) {
     EXPECT_EQ(desk.failure(), QString());
 }
 
+TEST_F(VideoMenu, TipsWithoutAVideoNumberAreShownAllTheSame) {
+    desk.exec(masterStore,
+              "insert into tovalin1_gram_tip (recordno, topicno, tips, autono) values (29, 3, '설명', null)");
+    EXPECT_EQ(play(topic(2)), desk.session.videoRoot + QStringLiteral("\\Lesson_4.wmv"));
+    EXPECT_EQ(story().text(), QStringLiteral("설명\n\n"));
+}
+
 TEST_F(VideoMenu, TheDoubledSeparatorStillFindsTheFile) {
     desk.makeVideo(3);
     click(topic(1));
