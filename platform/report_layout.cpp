@@ -39,32 +39,60 @@ int rangeOf(const ReportGroup& group, const ReportData& data, const ReportRow& r
     return -1;
 }
 
-/// Rows in their order, cut wherever their group changes.
-std::vector<Group> groupRows(const ReportTemplate& report, const ReportData& data) {
-    std::vector<Group> groups;
-    int known = std::numeric_limits<int>::min();
-    int count = std::numeric_limits<int>::max();
-    for (std::size_t i = 0; i < data.rows.size(); ++i) {
-        const ReportRow& row = data.rows[i];
-        const bool byRange = !report.group.table.isEmpty();
-        const int range = byRange ? rangeOf(report.group, data, row) : known;
-        const int number = report.group.restart.isEmpty() ? 0 : wholeNumber(row, report.group.restart);
-        const bool restarts = !report.group.restart.isEmpty() && number <= count;
-        if (groups.empty() || range != known || restarts) {
-            const ReportRow counted{{QStringLiteral("group"), QString::number(groups.size() + 1)}};
-            const ReportRow& fields =
-                byRange && range >= 0 ? data.ranges[static_cast<std::size_t>(range)] : row;
-            const bool named = !byRange || range >= 0;
-            groups.push_back({named ? filledText(report.group.text, data, fields, counted) : QString(), {}});
+/// Cuts rows, in their order, wherever their group changes.
+class Grouper {
+   public:
+    Grouper(const ReportTemplate& report, const ReportData& data) : group_(report.group), data_(data) {}
+
+    std::vector<Group> grouped() {
+        for (std::size_t i = 0; i < data_.rows.size(); ++i) {
+            const bool restarted = restarts(data_.rows[i]);
+            const bool moved = entersRange(data_.rows[i]);
+            if (groups_.empty() || restarted || moved)
+                begin(data_.rows[i], restarted);
+            groups_.back().rows.push_back(static_cast<int>(i));
         }
-        known = range;
-        count = number;
-        groups.back().rows.push_back(static_cast<int>(i));
+        if (groups_.size() == 1 && !group_.evenAlone)
+            groups_.front().text.clear();
+        return std::move(groups_);
     }
-    if (groups.size() == 1 && !report.group.evenAlone)
-        groups.front().text.clear();
-    return groups;
-}
+
+   private:
+    bool restarts(const ReportRow& row) {
+        if (group_.restart.isEmpty())
+            return false;
+        const int number = wholeNumber(row, group_.restart);
+        const bool anew = number <= count_;
+        count_ = number;
+        part_ += anew ? 1 : 0;
+        return anew;
+    }
+
+    bool entersRange(const ReportRow& row) {
+        if (group_.table.isEmpty())
+            return false;
+        const int range = rangeOf(group_, data_, row);
+        return std::exchange(range_, range) != range;
+    }
+
+    void begin(const ReportRow& row, bool restarted) {
+        const ReportRow counts{{QStringLiteral("group"), QString::number(groups_.size() + 1)},
+                               {QStringLiteral("part"), QString::number(part_)}};
+        const bool named = group_.table.isEmpty() || range_ >= 0;
+        const ReportRow& fields = range_ >= 0 ? data_.ranges[static_cast<std::size_t>(range_)] : row;
+        const QString text = named ? filledText(group_.text, data_, fields, counts).trimmed() : QString();
+        // Neighbouring ranges that say the same need to say it only once.
+        if (groups_.empty() || restarted || text != groups_.back().text)
+            groups_.push_back({text, {}});
+    }
+
+    const ReportGroup& group_;
+    const ReportData& data_;
+    std::vector<Group> groups_;
+    int range_ = -2;  // of the row before; -1 lies in none
+    int count_ = std::numeric_limits<int>::max();
+    int part_ = 0;
+};
 
 class Layouter {
    public:
@@ -78,7 +106,7 @@ class Layouter {
 
     ReportLayout laidOut() {
         head_ = headBlock(report_, data_, width_);
-        for (const Group& group : groupRows(report_, data_))
+        for (const Group& group : Grouper(report_, data_).grouped())
             addGroup(group);
         const double gap = fittingGap();
         ReportLayout layout{filledText(report_.name, data_, {}), report_.page, area_, {}};
@@ -146,6 +174,17 @@ class Layouter {
         return least;
     }
 
+    /// The room that a row needs on a page whose last row is of `group`. A heading comes with two of its
+    /// rows.
+    double needed(std::size_t row, int group, double gap) const {
+        const Band& band = bands_[row];
+        const ReportBlock& head = heads_[static_cast<std::size_t>(band.group)];
+        if (band.group == group || head.pieces.empty())
+            return band.block.height;
+        const bool another = row + 1 < bands_.size() && bands_[row + 1].group == band.group;
+        return head.height + band.block.height + (another ? gap + bands_[row + 1].block.height : 0);
+    }
+
     /// Sets the rows on pages and counts these. A row never breaks, a heading never stands alone, and a page
     /// that goes on with a group repeats its heading.
     int paginate(double gap, std::vector<ReportPage>* pages) const {
@@ -167,10 +206,10 @@ class Layouter {
                 addColumnRule(pages->back(), rowsTop, rowsBottom);
         };
         double rowsBottom = 0;
-        for (const Band& band : bands_) {
+        for (std::size_t i = 0; i < bands_.size(); ++i) {
+            const Band& band = bands_[i];
             const ReportBlock& head = heads_[static_cast<std::size_t>(band.group)];
-            const double before = band.group != group ? head.height : 0;
-            if (count == 0 || (y + before + band.block.height > bottom_ && y > firstTop())) {
+            if (count == 0 || (y + needed(i, group, gap) > bottom_ && y > firstTop())) {
                 close(rowsBottom);
                 open();
             }

@@ -42,7 +42,8 @@ struct ReportItem {
 };
 
 /// What rows stand together under one heading: the range of a table that the row's number lies in, or the
-/// rows up to the next restart of a count. `{group}` in the text counts the groups.
+/// rows up to the next restart of a count, or both. `{group}` in the text counts the groups, `{part}` the
+/// restarts.
 struct ReportGroup {
     QString table;
     QString from;

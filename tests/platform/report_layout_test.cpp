@@ -1,6 +1,7 @@
 #include "platform/report_layout.h"
 
 #include "platform/error.h"
+#include "tests/platform/report_sheet.h"
 #include "tests/support/desk.h"
 
 #include <QRawFont>
@@ -9,6 +10,7 @@
 
 #include <algorithm>
 #include <map>
+#include <set>
 
 using platform::layOutReport;
 using platform::PieceRole;
@@ -16,54 +18,14 @@ using platform::ReportData;
 using platform::ReportLayout;
 using platform::ReportPiece;
 using platform::ReportRow;
-using platform::ReportTemplate;
-using platform::ReportText;
+using support::oneColumn;
+using support::pieces;
+using support::question;
+using support::questions;
+using support::text;
+using support::texts;
 
 namespace {
-
-ReportText text(const char* written) {
-    return {QString::fromUtf8(written), QStringLiteral("test.rpt"), 1};
-}
-
-/// A sheet with one question a row.
-ReportTemplate oneColumn() {
-    ReportTemplate report;
-    report.title = text("Sheet");
-    report.guide = text("빈칸을 채우십시오.");
-    report.foot = text("{page} / {pages}");
-    report.items.resize(1);
-    report.items[0].prompts = {text("{q}")};
-    report.items[0].answers = {text("{a}"), text("{b}")};
-    return report;
-}
-
-ReportRow question(const QString& q, const QString& a, const QString& b = {}) {
-    return {{QStringLiteral("q"), q}, {QStringLiteral("a"), a}, {QStringLiteral("b"), b}};
-}
-
-ReportData questions(int count, const QString& q = QStringLiteral("It is ____ today."),
-                     const QString& a = QStringLiteral("sunny")) {
-    ReportData data;
-    for (int i = 0; i < count; ++i)
-        data.rows.push_back(question(q, a));
-    return data;
-}
-
-std::vector<ReportPiece> pieces(const ReportLayout& layout, PieceRole role) {
-    std::vector<ReportPiece> found;
-    for (const auto& page : layout.pages)
-        for (const ReportPiece& piece : page.pieces)
-            if (piece.role == role)
-                found.push_back(piece);
-    return found;
-}
-
-QStringList texts(const ReportLayout& layout, PieceRole role) {
-    QStringList found;
-    for (const ReportPiece& piece : pieces(layout, role))
-        found.append(piece.text);
-    return found;
-}
 
 /// The pages that each row has pieces on.
 std::map<int, std::set<std::size_t>> pagesOfRows(const ReportLayout& layout) {
@@ -285,52 +247,6 @@ TEST(ReportLayout, TheWordBankStandsInAFrameOnEveryPage) {
     const QRectF frame = pieces(layout, PieceRole::BankFrame)[0].place;
     for (const ReportPiece& word : pieces(layout, PieceRole::BankWord))
         EXPECT_TRUE(frame.contains(word.place)) << word.text.toStdString();
-}
-
-TEST(ReportLayout, GroupsAreHeadedAndTheHeadIsRepeatedOnThePagesTheyGoOnTo) {
-    auto report = oneColumn();
-    report.group = {QStringLiteral("ranges"),
-                    QStringLiteral("from"),
-                    QStringLiteral("to"),
-                    QStringLiteral("no"),
-                    {},
-                    text("{Title}"),
-                    true};
-    ReportData data;
-    data.ranges = {{{QStringLiteral("from"), QStringLiteral("1")},
-                    {QStringLiteral("to"), QStringLiteral("9")},
-                    {QStringLiteral("title"), QStringLiteral("첫째")}},
-                   {{QStringLiteral("from"), QStringLiteral("10")},
-                    {QStringLiteral("to"), QStringLiteral("20")},
-                    {QStringLiteral("title"), QStringLiteral("둘째")}}};
-    for (int i = 0; i < 60; ++i) {
-        ReportRow row = question(QStringLiteral("q ____"), QStringLiteral("a"));
-        row.insert(QStringLiteral("no"), QString::number(i < 5 ? 9 : 10));
-        data.rows.push_back(row);
-    }
-    const auto layout = layOutReport(report, data);
-    const auto heads = texts(layout, PieceRole::GroupHead);
-    EXPECT_EQ(heads.value(0), QStringLiteral("첫째"));
-    EXPECT_EQ(heads.count(QStringLiteral("둘째")), static_cast<int>(layout.pages.size()));
-}
-
-TEST(ReportLayout, ACountThatRestartsBeginsAnotherPart) {
-    auto report = oneColumn();
-    report.items[0].number = text("{n}");
-    report.group.restart = QStringLiteral("n");
-    report.group.text = text("Part {group}");
-    report.group.evenAlone = false;
-    ReportData data;
-    for (const char* n : {"1", "2", "3"}) {
-        data.rows.push_back(question(QStringLiteral("q ____"), QStringLiteral("a")));
-        data.rows.back().insert(QStringLiteral("n"), QLatin1String(n));
-    }
-    EXPECT_TRUE(texts(layOutReport(report, data), PieceRole::GroupHead).isEmpty());
-    data.rows.push_back(data.rows[0]);
-    const auto layout = layOutReport(report, data);
-    EXPECT_EQ(texts(layout, PieceRole::GroupHead),
-              QStringList({QStringLiteral("Part 1"), QStringLiteral("Part 2")}));
-    EXPECT_EQ(texts(layout, PieceRole::Number).last(), QStringLiteral("1."));
 }
 
 TEST(ReportLayout, ChoicesFollowTheQuestionInBracketsAndASingleOneIsALineOfItsOwn) {

@@ -1,80 +1,19 @@
 #include "worksheets/worksheet_menu.h"
 
-#include "platform/report_preview.h"
-#include "tests/worksheets/sheet_desk.h"
-
-#include <gtest/gtest.h>
-
-#include <set>
+#include "tests/worksheets/menu_desk.h"
 
 using platform::Label;
 using support::click;
 using support::courseStore;
-using support::Desk;
 using support::find;
-using support::masterStore;
+using support::refusal;
 using support::settle;
 using support::sheetStore;
 using worksheets::WorksheetMenu;
 
 namespace {
 
-const QString refusal = QStringLiteral("해당 레슨은 워크시트가 제공되지 않는 레슨입니다.");
-
-/// The menu over a course of a test's own, with the real templates.
-class WorksheetMenuTest : public ::testing::Test {
-   protected:
-    WorksheetMenuTest() {
-        installReports(desk_);
-        for (int topic = 1; topic <= 24; ++topic)
-            desk_.exec(sheetStore, "insert into topic values(" + std::to_string(topic) + ",'단원 " +
-                                       std::to_string(topic) + "')");
-    }
-
-    void addStep(int recordNo, int topicNo, int pageNo, const std::string& type = "Quiz",
-                 const std::string& useData = "YES") {
-        const std::string number = std::to_string(recordNo);
-        desk_.exec(sheetStore,
-                   "insert into tablework(recordno,topicno,pageno,Type,Title,guide,guide2,wordno,usedata,"
-                   "useform,quizno) values(" +
-                       number + "," + std::to_string(topicNo) + "," + std::to_string(pageNo) + ",'" + type +
-                       "','제목','안내','지시 " + number + "',0,'" + useData + "','frmQuiz',5)");
-    }
-    void addQuestions(int recordNo, int count) {
-        std::string sql;
-        for (int i = 1; i <= count; ++i) {
-            const std::string n = std::to_string(recordNo) + "-" + std::to_string(i);
-            sql +=
-                "insert into tovalin1_quiz_data(topicno,recordno,orderno,q1,q2,q3,q4,a1,a2,autono) "
-                "values(1," +
-                std::to_string(recordNo) + "," + std::to_string(i) + ",'" + n +
-                " asks ____.','p','q','Blank','a" + std::to_string(i) + "',''," +
-                std::to_string(recordNo * 100 + i) + ");";
-        }
-        desk_.exec(masterStore, sql);
-    }
-
-    WorksheetMenu* open(int topicNo = 1) {
-        desk_.session.topicNo = topicNo;
-        menu_ = static_cast<WorksheetMenu*>(desk_.open(QStringLiteral("frmWorkSheet")));
-        return menu_;
-    }
-    Label& topic(int index) { return find<Label>(menu_, QStringLiteral("lblTopic(%1)").arg(index)); }
-    Label& lesson(int index) { return find<Label>(menu_, QStringLiteral("lblLessonNo(%1)").arg(index)); }
-    platform::ReportPreview* preview() { return menu_->report().window(); }
-    QString reportName() { return menu_->report().file().mid(sheetFolder.size()); }
-    void closePreview() {
-        ASSERT_NE(preview(), nullptr);
-        QTest::keyClick(preview(), Qt::Key_Escape);
-        settle();
-    }
-    QStringList lines(const std::string& fields = "word1") {
-        return desk_.rows(sheetStore, "select " + fields + " from tempword order by orderno");
-    }
-
-    Desk desk_;
-    WorksheetMenu* menu_ = nullptr;
-};
+class WorksheetMenuTest : public support::MenuTest {};
 
 }  // namespace
 
@@ -117,46 +56,6 @@ TEST_F(WorksheetMenuTest, AUnitWithMoreLessonsThanLabelsEndsTheRun) {
     open(1);
     click(topic(1));
     EXPECT_TRUE(desk_.failure().contains(QStringLiteral("lblLessonNo(22)"))) << desk_.failure().toStdString();
-}
-
-TEST_F(WorksheetMenuTest, AClickOnALessonShowsItsSheet) {
-    addStep(40, 3, 1);
-    addQuestions(40, 3);
-    open(3);
-    click(lesson(0));
-    ASSERT_NE(preview(), nullptr) << desk_.failure().toStdString();
-    EXPECT_EQ(preview()->objectName(), QStringLiteral("frmReport"));
-    EXPECT_EQ(reportName(), QStringLiteral("gram4.rpt"));
-    EXPECT_EQ(
-        lines("word1,word2,word3,word4,word5,orderno"),
-        (QStringList{QStringLiteral("40-1 asks ____.|||a1||1"), QStringLiteral("40-2 asks ____.|||a2||2"),
-                     QStringLiteral("40-3 asks ____.|||a3||3")}));
-    closePreview();
-    EXPECT_EQ(preview(), nullptr);
-    EXPECT_EQ(desk_.top(), menu_);
-    EXPECT_TRUE(desk_.boxes.shown.empty());
-}
-
-TEST_F(WorksheetMenuTest, TheHeaderTablesHoldOneRowAfterEveryClick) {
-    addStep(40, 3, 1);
-    addStep(41, 3, 2);
-    addQuestions(40, 2);
-    addQuestions(41, 1);
-    desk_.exec(sheetStore,
-               "insert into student values('x','y',9); insert into student values('x','y',9);"
-               "insert into guide values(1,'old'); insert into tempword(word1) values('old')");
-    open(3);
-    for (const int index : {0, 1, 0}) {
-        click(lesson(index));
-        closePreview();
-        const QString page = QString::number(index + 1);
-        EXPECT_EQ(desk_.rows(sheetStore, "select Name,topic,lessonno from student"),
-                  QStringList{QStringLiteral("김하늘|단원 3|") + page});
-        const QString number = QString::number(40 + index);
-        EXPECT_EQ(desk_.rows(sheetStore, "select recordno,guide from guide"),
-                  QStringList{number + QStringLiteral("|지시 ") + number});
-        EXPECT_EQ(lines().size(), index == 0 ? 2 : 1);
-    }
 }
 
 TEST_F(WorksheetMenuTest, TheCopyAtTheFixedPlaceIsUsedAndTheCourseIsLeftAlone) {
@@ -209,110 +108,29 @@ TEST_F(WorksheetMenuTest, Step170IsRefusedEvenThoughBothTablesCarryIt) {
     EXPECT_EQ(preview(), nullptr);
 }
 
-TEST_F(WorksheetMenuTest, Step124RunsThePreviousReportOnItsOwnData) {
-    addStep(121, 11, 1);
-    addStep(124, 11, 2);
-    addQuestions(121, 1);
-    addQuestions(124, 2);
-    open(11);
+TEST_F(WorksheetMenuTest, ARedLessonOfTheRefusalListIsRefusedAndAWhiteOneToo) {
+    addStep(56, 5, 1, "Lesson", "NO");
+    addStep(57, 5, 2, "Quiz", "NO");
+    addStep(67, 5, 3, "Lesson", "YES");
+    addQuestions(57, 1);
+    open(5);
     click(lesson(0));
-    EXPECT_EQ(reportName(), QStringLiteral("gram5.rpt"));
-    closePreview();
+    click(lesson(2));
+    EXPECT_EQ(desk_.boxes.texts(), (QStringList{refusal, refusal}));
     click(lesson(1));
-    ASSERT_NE(preview(), nullptr) << desk_.failure().toStdString();
-    EXPECT_EQ(reportName(), QStringLiteral("gram5.rpt"));
-    EXPECT_EQ(lines().size(), 2);
-    EXPECT_EQ(lines().value(0), QStringLiteral("124-1 asks ____."));
+    EXPECT_NE(preview(), nullptr);
 }
 
-TEST_F(WorksheetMenuTest, Step124WithoutAnyReportBeforeEndsTheRunAfterFillingItsLines) {
-    addStep(124, 11, 1);
-    addQuestions(124, 2);
-    open(11);
-    click(lesson(0));
-    EXPECT_TRUE(desk_.failure().contains(QStringLiteral("no report was chosen")))
-        << desk_.failure().toStdString();
-    EXPECT_EQ(lines().size(), 2);
-}
-
-TEST_F(WorksheetMenuTest, ATeacherGetsTheKeyWhenTheSheetIsClosedOverTheSameTables) {
-    addStep(40, 3, 1);
-    addQuestions(40, 2);
-    desk_.session.teacherMode = QStringLiteral("Teacher");
-    open(3);
-    click(lesson(0));
-    EXPECT_EQ(reportName(), QStringLiteral("gram4.rpt"));
-    closePreview();
-    ASSERT_NE(preview(), nullptr) << desk_.failure().toStdString();
-    EXPECT_EQ(reportName(), QStringLiteral("gram4_t.rpt"));
-    EXPECT_EQ(lines().size(), 2);
-    closePreview();
-    EXPECT_EQ(preview(), nullptr);
-    EXPECT_EQ(desk_.top(), menu_);
-}
-
-TEST_F(WorksheetMenuTest, ALearnerGetsNoKey) {
-    addStep(40, 3, 1);
-    addQuestions(40, 1);
-    desk_.session.teacherMode = QStringLiteral("teacher");
-    open(3);
-    click(lesson(0));
-    closePreview();
-    EXPECT_EQ(preview(), nullptr);
-}
-
-TEST_F(WorksheetMenuTest, Step208GivesTheTeacherTheSameSheetTwice) {
-    addStep(208, 19, 1);
-    addQuestions(208, 1);
-    desk_.session.teacherMode = QStringLiteral("Teacher");
-    open(19);
-    click(lesson(0));
-    EXPECT_EQ(reportName(), QStringLiteral("gram5.rpt"));
-    closePreview();
-    ASSERT_NE(preview(), nullptr);
-    EXPECT_EQ(reportName(), QStringLiteral("gram5.rpt"));
-}
-
-TEST_F(WorksheetMenuTest, Step256IsBuiltWithTheSecondColumnAndPrintedWithTheFourthTemplate) {
-    addStep(256, 24, 1);
-    addQuestions(256, 1);
-    open(24);
-    click(lesson(0));
-    EXPECT_EQ(reportName(), QStringLiteral("gram4.rpt"));
-    EXPECT_EQ(lines("word1,word2,word3"), QStringList{QStringLiteral("256-1 asks ____.|p|")});
-}
-
-TEST_F(WorksheetMenuTest, AFinalDrawsItsQuestionsAnewEachTime) {
-    addStep(75, 7, 1);
-    addStep(94, 7, 2, "Final");
-    addQuestions(75, 40);
-    desk_.exec(sheetStore,
-               "update tablework set quizno=40 where recordno=75;"
-               "insert into tablework_final_data(recordno,recordno2,topicno,Title) values(75,93,7,'모두')");
-    open(7);
-    std::set<QString> draws;
-    for (int i = 0; i < 3; ++i) {
-        click(lesson(1));
-        ASSERT_NE(preview(), nullptr) << desk_.failure().toStdString();
-        EXPECT_EQ(reportName(), QStringLiteral("gram7.rpt"));
-        EXPECT_EQ(lines().size(), 5);
-        draws.insert(lines().join(u'|'));
-        closePreview();
-    }
-    EXPECT_GT(draws.size(), 1U);
-    EXPECT_EQ(desk_.session.stepType, QStringLiteral("Final"));
-}
-
-TEST_F(WorksheetMenuTest, AFinalWithoutMasterRowsSaysSoAndPrintsNothing) {
-    addStep(94, 7, 1, "Final");
-    open(7);
-    click(lesson(0));
-    EXPECT_EQ(desk_.boxes.texts(),
-              QStringList{QStringLiteral(
-                  "데이타 오류입니다.  Tovalin 프로그램을 재설치하십시오.\n재설치후 같은 오류인 경우에는 "
-                  "본사로 연락하십시오.")});
-    EXPECT_EQ(preview(), nullptr);
-    EXPECT_EQ(desk_.rows(sheetStore, "select count(*) from student"), QStringList{QStringLiteral("1")});
+TEST_F(WorksheetMenuTest, TheTextsOfTheMenuAreTheCoursesOwn) {
+    addStep(1, 1, 1);
+    open();
+    const auto caption = [&](const char* name) { return find<Label>(menu_, QLatin1String(name)).caption(); };
+    EXPECT_EQ(caption("lblBookTitle"), QStringLiteral("Grammar WorkSheet"));
+    EXPECT_EQ(caption("Label2"),
+              QStringLiteral("아래의 번호를 클릭하면 해당 레슨의 WorkSheet가 출력됩니다. (빨간 색은 "
+                             "제공되지 않습니다.)"));
+    EXPECT_EQ(caption("Label4"),
+              QStringLiteral("<Final>인 경우에는 랜덤으로 데이타가 선정되어 매번 출력문이 다릅니다."));
 }
 
 TEST_F(WorksheetMenuTest, ALessonIsFoundByItsPlaceSoAPageNumberOutOfPlaceKeepsTheStepInHand) {
@@ -326,28 +144,6 @@ TEST_F(WorksheetMenuTest, ALessonIsFoundByItsPlaceSoAPageNumberOutOfPlaceKeepsTh
     click(lesson(1));
     ASSERT_NE(preview(), nullptr);
     EXPECT_EQ(desk_.session.recordNo, 40);
-}
-
-TEST_F(WorksheetMenuTest, ThePreviewStandsOverTheMenuAndKeepsItFromClicks) {
-    addStep(40, 3, 1);
-    addQuestions(40, 1);
-    open(3);
-    click(lesson(0));
-    ASSERT_NE(preview(), nullptr);
-    EXPECT_EQ(preview()->windowModality(), Qt::ApplicationModal);
-    EXPECT_TRUE(preview()->isWindow());
-    EXPECT_TRUE(preview()->isVisible());
-}
-
-TEST_F(WorksheetMenuTest, AMissingTemplateEndsTheRunWithItsName) {
-    addStep(40, 3, 1);
-    addQuestions(40, 1);
-    QFile::remove(desk_.file(sheetFolder + QStringLiteral("gram4.rpt")));
-    open(3);
-    click(lesson(0));
-    EXPECT_TRUE(desk_.failure().contains(sheetFolder + QStringLiteral("gram4.rpt")))
-        << desk_.failure().toStdString();
-    EXPECT_TRUE(desk_.failure().contains(QStringLiteral("'53'")));
 }
 
 TEST_F(WorksheetMenuTest, TheExitButtonLightsOnceAndRestsWhenTheMouseCrossesTheForm) {
