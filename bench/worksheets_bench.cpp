@@ -57,7 +57,7 @@ void clickToFirstPage(benchmark::State& state) {
         state.ResumeTiming();
     }
 }
-BENCHMARK(clickToFirstPage)->Arg(15)->Arg(500)->Unit(benchmark::kMillisecond);
+BENCHMARK(clickToFirstPage)->Arg(15)->Arg(500)->UseRealTime()->Unit(benchmark::kMillisecond);
 
 /// Reading the tables and laying all pages out.
 void layOutPages(benchmark::State& state) {
@@ -66,7 +66,7 @@ void layOutPages(benchmark::State& state) {
     for (auto _ : state)
         benchmark::DoNotOptimize(lesson.layout());
 }
-BENCHMARK(layOutPages)->Arg(15)->Arg(500)->Unit(benchmark::kMillisecond);
+BENCHMARK(layOutPages)->Arg(15)->Arg(500)->UseRealTime()->Unit(benchmark::kMillisecond);
 
 /// Pages a second into a PDF file.
 void pagesToPdf(benchmark::State& state) {
@@ -80,6 +80,6 @@ void pagesToPdf(benchmark::State& state) {
     state.SetItemsProcessed(state.iterations() * static_cast<std::int64_t>(layout.pages.size()));
     state.counters["pages"] = static_cast<double>(layout.pages.size());
 }
-BENCHMARK(pagesToPdf)->Arg(15)->Arg(500)->Unit(benchmark::kMillisecond);
+BENCHMARK(pagesToPdf)->Arg(15)->Arg(500)->UseRealTime()->Unit(benchmark::kMillisecond);
 
 }  // namespace
