@@ -65,6 +65,8 @@ class ExerciseScreen : public core::Screen {
     /// Closes all data and takes the form off the screen.
     void leave();
 
+    /// A label that lights up while this holds leaves the hover state as it is.
+    bool hoverOpen() const { return hoverArmed_ == 1; }
     /// A label of the form that moves its hover state like a button but has no picture: true when armed, and
     /// then spends it.
     bool spendHover();

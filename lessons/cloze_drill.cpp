@@ -1,6 +1,5 @@
 #include "lessons/cloze_drill.h"
 
-#include "course/score.h"
 #include "lessons/drill_judge.h"
 
 namespace lessons {
@@ -126,8 +125,7 @@ void ClozeDrill::removeRightRows() {
 }
 
 void ClozeDrill::finish() {
-    session().scoreValue = 100;
-    course::SaveScore(context());
+    saveFullMarks();
     showCompletion();
     picNext().show();
     showQuizButton(false);

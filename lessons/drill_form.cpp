@@ -2,7 +2,9 @@
 
 #include "core/play_sound.h"
 #include "core/stores.h"
+#include "course/score.h"
 #include "course/walk.h"
+#include "lessons/box_keys.h"
 
 namespace lessons {
 
@@ -108,8 +110,8 @@ void DrillForm::buildBox(const GridBlock& block, int n) {
     box.setEnabled(!drill_.countsRows);
     if (!drill_.countsRows)
         box.setText(sampleAnswer);
-    // A sign stands for the answer it was given for.
-    box.onChange = [&box] { box.setMark(platform::BoxMark::None); };
+    // A sign stands for the answer it was given for; a box that stays locked goes on telling that it is.
+    box.onChange = [&box] { box.setMark(box.locked() ? platform::BoxMark::Given : platform::BoxMark::None); };
     box.onKeyDown = [this, index](int code) { keyDown(index, code); };
 }
 
@@ -299,6 +301,11 @@ void DrillForm::blankAllBoxes() {
         txtWord(i).setText(QString());
 }
 
+void DrillForm::saveFullMarks() {
+    session().scoreValue = 100;
+    course::SaveScore(context());
+}
+
 void DrillForm::showCompletion() {
     if (drill_.completionSound)
         core::PlaySound(context(), QStringLiteral("Contestbegin.wav"), core::Effect);
@@ -324,39 +331,12 @@ void DrillForm::goToNextListed(int box) {
 }
 
 void DrillForm::keyDown(int box, int code) {
-    if (code == platform::key::home || code == platform::key::end) {
-        moveToEnds(box, code);
-        return;
+    if (code == platform::key::enter) {
+        if (box < boxCount() - 1)
+            enterPressed(box);
+    } else if (const auto target = boxByKey(txtWord(box), box, boxCount(), code)) {
+        goTo(*target);
     }
-    if (box >= boxCount() - 1)
-        return;
-    switch (code) {
-        case platform::key::enter: enterPressed(box); break;
-        case platform::key::left:
-        case platform::key::up:
-        case platform::key::pageUp:
-            if (box > 0)
-                goTo(box - 1);
-            break;
-        default: moveOn(box, code);
-    }
-}
-
-void DrillForm::moveOn(int box, int code) {
-    const TextBox& here = txtWord(box);
-    const bool atEdge = here.cursorPosition() == here.text().size() || here.selectedText() == here.text();
-    const bool goes = code == platform::key::down || code == platform::key::pageDown ||
-                      (code == platform::key::right && atEdge);
-    if (goes)
-        goTo(box + 1);
-}
-
-void DrillForm::moveToEnds(int box, int code) {
-    const TextBox& here = txtWord(box);
-    const bool allSelected = here.selectedText() == here.text();
-    const auto edge = code == platform::key::home ? 0 : here.text().size();
-    if ((allSelected || here.cursorPosition() == edge) && boxCount() > 0)
-        goTo(code == platform::key::home ? 0 : boxCount() - 1);
 }
 
 void DrillForm::close(const ClosedSets& sets) {

@@ -53,6 +53,8 @@ class DrillForm : public course::ExerciseScreen {
     void setBox(int box, const QString& text, QRgb foreColor,
                 platform::BoxMark mark = platform::BoxMark::None);
     void blankAllBoxes();
+    /// The only score a drill can have, stored for the step in hand.
+    void saveFullMarks();
     /// Tells that the drill is done.
     void showCompletion();
 
@@ -68,9 +70,6 @@ class DrillForm : public course::ExerciseScreen {
     void buildGrid();
     void buildBox(const GridBlock& block, int n);
     void keyDown(int box, int code);
-    /// Left, up and page up always go to the box before; their counterparts leave a box at its text's edge.
-    void moveOn(int box, int code);
-    void moveToEnds(int box, int code);
     void readTip();
     void readRules();
     void readSecondList();

@@ -1,6 +1,5 @@
 #include "lessons/drill_screen.h"
 
-#include "course/score.h"
 #include "lessons/drill_judge.h"
 
 namespace lessons {
@@ -104,8 +103,7 @@ void DrillScreen::markRightRows() {
 void DrillScreen::finish() {
     for (int i = 0; i < boxCount(); ++i)
         txtWord(i).setMark(BoxMark::Right);
-    session().scoreValue = 100;
-    course::SaveScore(context());
+    saveFullMarks();
     showCompletion();
     picNext().show();
 }

@@ -1,7 +1,5 @@
 #include "lessons/reading_page.h"
 
-#include "course/score.h"
-
 namespace lessons {
 
 namespace {
@@ -17,8 +15,7 @@ void ReadingPage::nextClicked() {
         return;
     }
     // Elsewhere reading alone counts as full marks, saved before the question is asked.
-    session().scoreValue = 100;
-    course::SaveScore(context());
+    saveFullMarks();
     DrillForm::nextClicked();
 }
 

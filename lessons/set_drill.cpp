@@ -1,7 +1,6 @@
 #include "lessons/set_drill.h"
 
 #include "core/stores.h"
-#include "course/score.h"
 #include "lessons/drill_judge.h"
 
 namespace lessons {
@@ -116,13 +115,14 @@ Int16 SetDrill::countMisses() {
 }
 
 void SetDrill::finish() {
-    session().scoreValue = 100;
     if (drill().savesScore)
-        course::SaveScore(context());
+        saveFullMarks();
     for (int i = 0; i < boxCount(); ++i)
         txtWord(i).setMark(BoxMark::Right);
     showCompletion();
     picNext().show();
+    // The first page has its marks in hand, and leaves it to the second to store them.
+    session().scoreValue = 100;
     showReview();
 }
 

@@ -2,6 +2,7 @@
 
 #include <QApplication>
 #include <QMessageBox>
+#include <QPointer>
 
 namespace platform {
 
@@ -34,7 +35,8 @@ void dressBox(QMessageBox& box) {
 }
 
 bool DesktopBoxes::show(const Message& message) {
-    QMessageBox box(QApplication::activeWindow());
+    const QPointer<QWidget> asking = QApplication::activeWindow();
+    QMessageBox box(asking);
     box.setObjectName(QStringLiteral("messageBox"));
     dressBox(box);
     box.setText(message.text);
@@ -42,6 +44,9 @@ bool DesktopBoxes::show(const Message& message) {
     box.setWindowTitle(message.title.isEmpty() ? defaultBoxTitle() : message.title);
     box.setStandardButtons(message.yesNo ? QMessageBox::Yes | QMessageBox::No : QMessageBox::Ok);
     const int answer = box.exec();
+    // Not every desktop hands the keyboard back by itself, and then no box would show that it is in hand.
+    if (asking && asking->isVisible())
+        asking->activateWindow();
     return answer == QMessageBox::Ok || answer == QMessageBox::Yes;
 }
 

@@ -20,11 +20,13 @@ constexpr int pollInterval = 5;
 struct DeviceSound::Module {
     QLibrary library;
     SoundPlayFunction play = nullptr;
+    SoundPlayBesideFunction playBeside = nullptr;
     SoundPlayingFunction playing = nullptr;
     SoundCloseFunction close = nullptr;
 
     Module() : library(QCoreApplication::applicationDirPath() + QStringLiteral("/mendori_sound")) {
         play = reinterpret_cast<SoundPlayFunction>(library.resolve(soundPlayName));
+        playBeside = reinterpret_cast<SoundPlayBesideFunction>(library.resolve(soundPlayBesideName));
         playing = reinterpret_cast<SoundPlayingFunction>(library.resolve(soundPlayingName));
         close = reinterpret_cast<SoundCloseFunction>(library.resolve(soundCloseName));
     }
@@ -32,18 +34,29 @@ struct DeviceSound::Module {
         if (close != nullptr)
             close();
     }
-    bool usable() const { return play != nullptr && playing != nullptr && close != nullptr; }
+    bool usable() const {
+        return play != nullptr && playBeside != nullptr && playing != nullptr && close != nullptr;
+    }
 };
 
 DeviceSound::DeviceSound() = default;
 DeviceSound::~DeviceSound() = default;
 
-void DeviceSound::play(const QString& file, bool wait) {
+bool DeviceSound::canPlay(const QString& file) {
     if (!QFileInfo(file).isFile())
-        return;
+        return false;
     if (!module_)
         module_ = std::make_unique<Module>();
-    if (!module_->usable() || !module_->play(file.toUtf8().constData()) || !wait)
+    return module_->usable();
+}
+
+void DeviceSound::playBeside(const QString& file) {
+    if (canPlay(file))
+        module_->playBeside(file.toUtf8().constData());
+}
+
+void DeviceSound::play(const QString& file, bool wait) {
+    if (!canPlay(file) || !module_->play(file.toUtf8().constData()) || !wait)
         return;
     // The window keeps painting while a word is spoken, but the learner's clicks and keys wait their turn.
     QEventLoop loop;

@@ -7,6 +7,7 @@
 namespace {
 
 constexpr int channel = 0;
+constexpr int playerChannel = 1;
 constexpr std::size_t keptSounds = 64;
 
 struct Device {
@@ -20,6 +21,7 @@ struct Device {
     }
     void forget() {
         Mix_HaltChannel(channel);
+        Mix_HaltChannel(playerChannel);
         for (const auto& [file, sound] : sounds)
             Mix_FreeChunk(sound);
         sounds.clear();
@@ -41,15 +43,23 @@ Device& device() {
     return shared;
 }
 
+bool playOn(int voice, const char* utf8File) {
+    if (!device().open)
+        return false;
+    Mix_Chunk* sound = device().load(utf8File);
+    return sound != nullptr && Mix_PlayChannel(voice, sound, 0) >= 0;
+}
+
 }  // namespace
 
 extern "C" {
 
 __attribute__((visibility("default"))) bool mendori_sound_play(const char* utf8File) {
-    if (!device().open)
-        return false;
-    Mix_Chunk* sound = device().load(utf8File);
-    return sound != nullptr && Mix_PlayChannel(channel, sound, 0) >= 0;
+    return playOn(channel, utf8File);
+}
+
+__attribute__((visibility("default"))) void mendori_sound_play_beside(const char* utf8File) {
+    playOn(playerChannel, utf8File);
 }
 
 __attribute__((visibility("default"))) bool mendori_sound_playing() {

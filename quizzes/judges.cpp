@@ -188,9 +188,14 @@ Verdict judgeWords(Compare compare, const QStringList& boxes, const QString& a1)
 QStringList cutSentence(const QString& sentence) {
     if (!sentence.contains(u' '))
         return {};
-    QStringList words = sentence.split(u' ');
-    for (qsizetype i = 1; i < words.size(); ++i)
-        words[i] = core::KeepAnswerChars(words[i]);
+    const qsizetype end = sentence.indexOf(u' ');
+    QStringList words{sentence.first(end)};
+    QString rest = sentence.sliced(end + 1);
+    while (!rest.isEmpty()) {
+        QString word = rest.section(u' ', 0, 0);
+        rest = rest.sliced(std::min(word.size() + 1, rest.size())).trimmed();
+        words.append(core::KeepAnswerChars(word));
+    }
     return words;
 }
 

@@ -63,7 +63,8 @@ QStringList answerWords(const QString& a1);
 Verdict judgeWords(Compare compare, const QStringList& boxes, const QString& a1);
 
 /// Cuts a sentence into the words that can be clicked: the first as it stands, the others lower-cased and
-/// without marks. A sentence without a blank gives none.
+/// without marks. What is left after each of those is trimmed, so that a second blank there makes no word of
+/// its own. A sentence without a blank gives none.
 QStringList cutSentence(const QString& sentence);
 
 }  // namespace quizzes

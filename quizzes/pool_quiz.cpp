@@ -77,6 +77,11 @@ void PoolQuiz::poolClicked(int row) {
     slotNo_ += 1;
 }
 
+void PoolQuiz::chooseByDigit(int number) {
+    if (cell(pool, number - 1).isVisible())
+        poolClicked(number - 1);
+}
+
 void PoolQuiz::slotClicked(int row) {
     cell(slot, row).setForeColor(platform::colour::red);
     cell(pool, row).setForeColor(platform::colour::black);

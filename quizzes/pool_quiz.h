@@ -16,6 +16,7 @@ class PoolQuiz final : public TableQuiz {
     void fillRows() override;
     void beforeJudging() override;
     void showWrong(std::size_t column, int row, const QString& answer) override;
+    void chooseByDigit(int number) override;
 
    private:
     Label& cell(std::size_t column, int row) const { return columns[column].labels(row); }

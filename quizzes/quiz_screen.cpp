@@ -77,8 +77,9 @@ void QuizScreen::addHint(int top) {
 }
 
 void QuizScreen::focusContent() {
-    const auto isSide = [](QWidget* control) {
-        return qobject_cast<platform::PictureButton*>(control) != nullptr;
+    // The form itself has the keyboard where nothing had asked for it as the screen came up.
+    const auto isSide = [this](QWidget* control) {
+        return control == this || qobject_cast<platform::PictureButton*>(control) != nullptr;
     };
     if (focusWidget() != nullptr && focusWidget()->isVisible() && !isSide(focusWidget()))
         return;

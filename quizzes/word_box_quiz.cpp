@@ -38,17 +38,30 @@ void WordBoxQuiz::showQuestion(bool) {
         box->hide();
         box->setText(QString());
     }
-    blankCount_ = platform::textToInt16(required("q3"));
-    if (blankCount_ > boxCount)
-        failRows(platform::Fault::SubscriptOutOfRange,
-                 QStringLiteral("the question \"%1\" asks for %2 boxes in q3, and the screen has %3.")
-                     .arg(required("q1"), QString::number(blankCount_), QString::number(boxCount)));
+    blankCount_ = readBlankCount();
     const int left = cardLeft + (boxCount - askedCount()) * boxPitch / 2;
     for (int i = 0; i < blankCount_; ++i) {
         movePlace(txtWord_(i), left + i * boxPitch, boxTop);
         txtWord_(i).show();
     }
     txtWord_(0).setFocus();
+}
+
+Int16 WordBoxQuiz::readBlankCount() const {
+    const QString count = required("q3");
+    const auto fail = [&](platform::Fault fault) {
+        failRows(fault, QStringLiteral("the question \"%1\" asks for %2 boxes in q3, and the screen has %3.")
+                            .arg(required("q1"), count, QString::number(boxCount)));
+    };
+    Int16 asked;
+    try {
+        asked = platform::textToInt16(count);
+    } catch (const platform::RuntimeError& error) {
+        fail(error.fault());
+    }
+    if (asked > boxCount)
+        fail(platform::Fault::SubscriptOutOfRange);
+    return asked;
 }
 
 int WordBoxQuiz::askedCount() const {

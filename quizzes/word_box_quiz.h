@@ -17,6 +17,8 @@ class WordBoxQuiz final : public QuestionQuiz {
 
    private:
     void keyDown(int index, int code);
+    /// The number of boxes that the row asks for; one that the screen has not ends the run.
+    Int16 readBlankCount() const;
     /// How many of the boxes are asked: none for a count that the screen has not.
     int askedCount() const;
     /// The boxes' texts, once none of them is empty.

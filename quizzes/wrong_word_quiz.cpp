@@ -107,6 +107,11 @@ void WrongWordQuiz::wordClicked(int index) {
     txtWord_->setFocus();
 }
 
+void WrongWordQuiz::chooseByDigit(int number) {
+    if (lblWord2_(number - 1).isVisible())
+        wordClicked(number - 1);
+}
+
 void WrongWordQuiz::judge(bool byEnter) {
     if (!gateOpen())
         return;

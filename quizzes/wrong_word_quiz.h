@@ -14,6 +14,7 @@ class WrongWordQuiz final : public QuestionQuiz {
    protected:
     void showQuestion(bool first) override;
     void check() override { judge(false); }
+    void chooseByDigit(int number) override;
 
    private:
     /// Cuts the sentence into words that can be clicked.

@@ -10,10 +10,12 @@ namespace vocabulary {
 namespace {
 
 constexpr int longestFade = 200;
+const QString ghostName = QStringLiteral("fading");
 
 class Ghost : public QWidget {
    public:
     Ghost(QWidget* parent, QPixmap picture) : QWidget(parent), picture_(std::move(picture)) {
+        setObjectName(ghostName);
         setAttribute(Qt::WA_TransparentForMouseEvents);
     }
     void fadeTo(double strength) {
@@ -54,6 +56,10 @@ void fadeAway(QWidget& control) {
                      [ghost](const QVariant& value) { ghost->fadeTo(value.toDouble()); });
     QObject::connect(fading, &QVariantAnimation::finished, ghost, &QObject::deleteLater);
     fading->start();
+}
+
+void endFades(QWidget& form) {
+    qDeleteAll(form.findChildren<QWidget*>(ghostName, Qt::FindDirectChildrenOnly));
 }
 
 }  // namespace vocabulary

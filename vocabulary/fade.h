@@ -8,4 +8,7 @@ namespace vocabulary {
 /// anything; where animations are turned off there is none.
 void fadeAway(QWidget& control);
 
+/// Takes away the pictures that still fade on a form, so that none lies over what comes next in its place.
+void endFades(QWidget& form);
+
 }  // namespace vocabulary

@@ -174,7 +174,6 @@ void SpellingCoach::listClicked(const QListWidgetItem& item) {
     } catch (const platform::RuntimeError&) {
     }
     prepareRows();
-    lblHint_->show();
     lblDef_->hide();
     row(Stage::Copy).focus(0);
 }

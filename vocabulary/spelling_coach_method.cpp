@@ -31,6 +31,8 @@ void SpellingCoach::prepareRows() {
     showStepBack(Stage::Closed);
     stage_ = Stage::Copy;
     lblHint_->setCaption(currentWord_);
+    // Practice pressed in a later row starts over, and the copies are made with the word in sight.
+    lblHint_->show();
     cmdAnswer_->hide();
     lookupOpen_ = false;
 }

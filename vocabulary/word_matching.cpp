@@ -196,6 +196,7 @@ void WordMatching::clearColumns() {
             label->setCaption(QString());
             label->hide();
         }
+    endFades(*this);
 }
 
 void WordMatching::findWord(int number) {
@@ -263,7 +264,7 @@ void WordMatching::finish() {
 }
 
 void WordMatching::definitionHovered(int index) {
-    if (!spendHover())
+    if (!hoverOpen())
         return;
     for (Label* definition : lblDefinition_)
         definition->setForeColor(platform::colour::black);

@@ -19,7 +19,7 @@ WordPlayer::WordPlayer(const core::Context& context, const QString& name, QObjec
 void WordPlayer::setUrl(const QString& url) {
     url_ = url;
     qCInfo(mediaLog).noquote() << objectName() << url;
-    context_.sound.play(context_.drives.resolve(url), false);
+    context_.sound.playBeside(context_.drives.resolve(url));
 }
 
 }  // namespace vocabulary

@@ -6,7 +6,8 @@
 
 namespace vocabulary {
 
-/// A media player without a window: setting its `url` plays the file and returns at once.
+/// A media player without a window: setting its `url` plays the file and returns at once. It sounds beside an
+/// effect that still plays.
 class WordPlayer : public QObject {
     Q_OBJECT
     Q_PROPERTY(QString url READ url WRITE setUrl)

@@ -132,6 +132,28 @@ TEST_F(Cloze, HintsTheWrongBoxesAgainAndTouchesNoOther) {
     EXPECT_EQ(row(scoreStore, "SELECT s4 FROM score").toDouble(), 100);
 }
 
+TEST_F(Cloze, WalksByEnterTheListThatTheCheckLeftOpen) {
+    open();
+    begin();
+    answerBlanks({4, 9});
+    begin();
+    exec(courseStore, "INSERT INTO blankno (orderno, blankno, word, showword) VALUES (3, 20, 'x', 'NO')");
+    // No row that was added since is on it.
+    box(9).setFocus();
+    key(9, Qt::Key_Return);
+    EXPECT_EQ(focusedBox(), 9);
+}
+
+TEST_F(Cloze, StaysInItsBoxByEnterWhenItIsDone) {
+    open();
+    begin();
+    answerBlanks();
+    box(7).setFocus();
+    key(7, Qt::Key_Return);
+    EXPECT_EQ(focusedBox(), 7);
+    EXPECT_EQ(failure(), QString());
+}
+
 TEST_F(Cloze, TellsOfItsEndWithoutAnIconAndOffersNoButtonToGoOnTyping) {
     open();
     begin();

@@ -77,6 +77,7 @@ TEST(IngDrill, ShowsPromptsForTheFirstThirteenAndHeadsForTheRest) {
     EXPECT_EQ(desk.caption("lblWord(12)"), QStringLiteral("mword13"));
     EXPECT_EQ(desk.boxText(12), QStringLiteral("mword13s"));
     EXPECT_EQ(desk.boxText(13), QStringLiteral("nword14"));
+    EXPECT_EQ(desk.caption("lblTopic4"), QStringLiteral("현재진행형으로 만들 수 없는 동사들"));
     EXPECT_EQ(desk.caption("Label3"), QStringLiteral("감정 동사"));
     EXPECT_EQ(desk.caption("Label4"), QStringLiteral("감각 동사"));
     EXPECT_EQ(desk.caption("Label5"), QStringLiteral("소유 동사"));

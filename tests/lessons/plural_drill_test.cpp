@@ -108,6 +108,91 @@ TEST_F(PluralDrill, ShowsOneWrongBoxInRedThenAsksForItAlone) {
     EXPECT_EQ(storedScore().toDouble(), 100);
 }
 
+TEST_F(PluralDrill, TellsOfWrongWordsBeforeItShowsThemWithAllBoxesLocked) {
+    open();
+    int told = 0;
+    boxes.onShow = [&](const platform::Message&) {
+        ++told;
+        EXPECT_EQ(boxText(5), QStringLiteral("zzz"));
+        EXPECT_EQ(box(5).foreColor(), colour::black);
+        EXPECT_TRUE(box(5).locked());
+        EXPECT_TRUE(isShown("picQuiz"));
+        EXPECT_FALSE(isShown("picBegin"));
+    };
+    fail({5});
+    EXPECT_EQ(told, 1);
+}
+
+TEST_F(PluralDrill, StoresTheMarksThenPlaysThenTells) {
+    open();
+    int told = 0;
+    boxes.onShow = [&](const platform::Message&) {
+        ++told;
+        EXPECT_EQ(storedScore().toDouble(), 100);
+        EXPECT_EQ(sound.names().last().toLower(), QStringLiteral("contestbegin.wav"));
+        EXPECT_FALSE(sound.played.back().waited);
+    };
+    fail({});
+    EXPECT_EQ(told, 1);
+}
+
+TEST_F(PluralDrill, LeavesTheStepAtNoughtUntilAllIsRight) {
+    exec(scoreStore,
+         "INSERT INTO score (studentno, program, recordno, s4, vtitle) VALUES ('1001', 'Tovalin1', 500, 0, "
+         "'')");
+    open();
+    fail({5});
+    EXPECT_EQ(storedScore().toDouble(), 0);
+    fail({});
+    EXPECT_EQ(storedScore().toDouble(), 100);
+}
+
+TEST_F(PluralDrill, KeepsTheRightBoxesLockedThroughAllLaterPasses) {
+    open();
+    fail({5, 6});
+    begin();
+    answer(5, QStringLiteral("fword6s"));
+    answer(6, QStringLiteral("zzz"));
+    check();
+    begin();
+    for (int i = 0; i < 28; ++i)
+        EXPECT_EQ(box(i).locked(), i != 6) << i;
+    EXPECT_EQ(boxText(5), QStringLiteral("fword6s"));
+    EXPECT_EQ(boxText(6), QString());
+    EXPECT_EQ(focusedBox(), 6);
+}
+
+TEST_F(PluralDrill, CountsNothingThatIsTypedWhileTheAnswersAreOnView) {
+    open();
+    answer(0, QStringLiteral("study"));
+    begin();
+    EXPECT_EQ(boxText(0), QString());
+    answerAndCheck({3});
+    answer(3, QStringLiteral("review"));
+    EXPECT_EQ(boxText(3), QStringLiteral("review"));
+    begin();
+    EXPECT_EQ(boxText(3), QString());
+    EXPECT_EQ(wrongBoxes(), QStringList{QStringLiteral("3")});
+}
+
+TEST_F(PluralDrill, StartsFromTheFirstPassAgainAtANewLoadWhateverTheLastDrillLeft) {
+    open();
+    fail({5});
+    form().unload();
+    support::settle();
+    open();
+    EXPECT_EQ(blanks().size(), 28);
+    EXPECT_EQ(box(5).foreColor(), colour::black);
+    begin();
+    EXPECT_EQ(boxTexts(0, 28), QStringList(28, QString()));
+    EXPECT_FALSE(box(0).locked());
+    key(0, Qt::Key_Return);
+    EXPECT_EQ(focusedBox(), 1);
+    answerAndCheck();
+    EXPECT_EQ(blanks().size(), 28);
+    EXPECT_EQ(storedScore().toDouble(), 100);
+}
+
 TEST_F(PluralDrill, TakesAWordWithBlanksAroundItAndShowsItWithout) {
     open();
     begin();

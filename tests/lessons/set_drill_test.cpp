@@ -157,6 +157,30 @@ TEST_F(FirstPage, WalksTheListOfRedBoxesByEnterAndFromOffTheListToItsHead) {
     EXPECT_EQ(focusedBox(), 4);
 }
 
+TEST_F(FirstPage, LooksAtTheListAnewWithEachEnter) {
+    open();
+    fail({3});
+    begin();
+    exec(courseStore, "INSERT INTO blankno (orderno, blankno) VALUES (2, 20)");
+    key(3, Qt::Key_Return);
+    EXPECT_EQ(focusedBox(), 20);
+}
+
+TEST_F(FirstPage, TellsOfItsEndBeforeItAsksToBeginAgain) {
+    open();
+    int told = 0;
+    boxes.onShow = [&](const platform::Message&) {
+        ++told;
+        EXPECT_EQ(session.scoreValue, 0);
+        EXPECT_EQ(sound.names().last().toLower(), QStringLiteral("contestbegin.wav"));
+        EXPECT_TRUE(isShown("picQuiz"));
+        EXPECT_FALSE(isShown("picBegin"));
+    };
+    fail({});
+    EXPECT_EQ(told, 1);
+    EXPECT_EQ(session.scoreValue, 100);
+}
+
 TEST_F(FirstPage, GoesToTheNextBoxByEnterInTheFirstPass) {
     open();
     begin();
@@ -218,6 +242,16 @@ TEST_F(SecondPage, NeverTouchesItsLastBox) {
     EXPECT_EQ(focusedBox(), 22);
     key(1, Qt::Key_End);
     EXPECT_EQ(focusedBox(), 22);
+}
+
+TEST_F(SecondPage, StoresTheMarksBeforeItTellsOfTheEnd) {
+    open();
+    QString storedWhenTold;
+    boxes.onShow = [&](const platform::Message&) {
+        storedWhenTold = row(scoreStore, "SELECT recordno, s4, s5 FROM score");
+    };
+    fail({});
+    EXPECT_EQ(storedWhenTold, QStringLiteral("15|100.0|"));
 }
 
 TEST_F(SecondPage, AsksAgainInWordsOfItsOwn) {

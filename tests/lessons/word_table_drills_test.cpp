@@ -116,6 +116,9 @@ TEST(PronounDrill, KeepsItsPersonsWhateverTheStepAndAsksForTheFirstWord) {
     EXPECT_EQ(desk.caption("Label1(13)"), QStringLiteral("it"));
     EXPECT_EQ(desk.caption("Label1(14)"), QStringLiteral("we"));
     EXPECT_EQ(desk.caption("Label1(34)"), QStringLiteral("you and Jane"));
+    EXPECT_EQ(desk.caption("Label2"), QStringLiteral("소유격"));
+    EXPECT_EQ(desk.caption("Label3"), QStringLiteral("목적격"));
+    EXPECT_EQ(desk.caption("Label4"), QStringLiteral("소유대명사"));
     EXPECT_EQ(desk.boxText(0), QStringLiteral("aword1"));
     EXPECT_EQ(desk.caption("lblAnswer"), QStringLiteral("Quiz"));
     desk.begin();
@@ -185,7 +188,8 @@ TEST(CompletionMessage, LooksAtTheReviewOnSomeScreensAlone) {
         const char* screen;
         bool tests;
     };
-    for (const Case& c : {Case{"frmLesson", true}, Case{"frmLesson4", true}, Case{"frmLesson7", true},
+    for (const Case& c : {Case{"frmLesson", true}, Case{"frmLesson2", false}, Case{"frmLesson2_2", false},
+                          Case{"frmLesson3_2", true}, Case{"frmLesson4", true}, Case{"frmLesson7", true},
                           Case{"frmLesson8", true}, Case{"frmLesson9", true}, Case{"frmLesson10", false},
                           Case{"frmLesson11", false}, Case{"frmLesson17", false}, Case{"frmLesson18", true},
                           Case{"frmLesson18_2", true}, Case{"frmLesson24", false}}) {

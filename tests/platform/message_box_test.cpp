@@ -2,6 +2,7 @@
 
 #include "tests/support/desk.h"
 
+#include <QLineEdit>
 #include <QMessageBox>
 #include <QPushButton>
 
@@ -77,4 +78,14 @@ TEST(DesktopBoxes, AStopBoxCarriesTheStopIcon) {
         boxes.show({"Log In Required.", platform::BoxIcon::Stop, {}, false});
     });
     EXPECT_EQ(seen.icon, QMessageBox::Critical);
+}
+
+TEST(DesktopBoxes, HandTheKeyboardBackToTheWindowThatAsked) {
+    QLineEdit window;
+    window.show();
+    window.activateWindow();
+    ASSERT_TRUE(support::waitFor([&] { return window.isActiveWindow(); }));
+    DesktopBoxes boxes;
+    answer(QMessageBox::Ok, [&] { boxes.notice("끝났습니다."); });
+    EXPECT_TRUE(support::waitFor([&] { return window.hasFocus(); }));
 }

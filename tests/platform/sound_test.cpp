@@ -73,6 +73,11 @@ TEST_F(SoundTest, ASoundStartedAtOnceCutsOffTheOneBefore) {
     EXPECT_NEAR(crossings(), 100, 60);
 }
 
+TEST_F(SoundTest, AMediaPlayerSoundsBesideAnEffectAndCutsOffNothing) {
+    EXPECT_LT(play({"--beside", high, low}), 700);
+    EXPECT_GE(crossings(), 400);
+}
+
 TEST_F(SoundTest, AMissingOrBrokenFileIsSilenceAtOnce) {
     QFile broken(folder.filePath("broken.wav"));
     ASSERT_TRUE(broken.open(QIODevice::WriteOnly));

@@ -33,8 +33,8 @@ TEST(ButtonQuiz, TheButtonsOfAStepStandAndTheOthersAreHidden) {
     }
 }
 
-TEST(ButtonQuiz, AWrongArticleSoundsAndAWrongNumberIsSilent) {
-    for (const int step : {22, 110}) {
+TEST(ButtonQuiz, AWrongArticleSoundsAndAWrongNumberVerbOrConjunctionIsSilent) {
+    for (const int step : {22, 110, 138, 155}) {
         QuizDesk desk;
         desk.layStep(step, {gap("the")});
         core::Screen* screen = desk.run("frmQuiz5");

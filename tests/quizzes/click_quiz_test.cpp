@@ -22,13 +22,15 @@ const platform::Message& last(const QuizDesk& desk) {
 }  // namespace
 
 TEST(TwoChoices, ACapitalInAChoiceDoesNotMatterButABlankDoes) {
-    QuizDesk desk;
-    desk.layStep(2, {{{"q1", "s"}, {"q2", "GO"}, {"q3", "no"}, {"a1", "go"}},
-                     {{"q1", "s"}, {"q2", "go "}, {"q3", "no"}, {"a1", "go"}}});
-    core::Screen* screen = desk.run("frmQuiz7");
-    press(screen, "lblWord2(0)");
-    press(screen, "lblWord2(0)");
-    EXPECT_EQ(desk.scores(), QStringList{"2|50"});
+    for (const char* form : {"frmQuiz7", "frmQuiz8"}) {
+        QuizDesk desk;
+        desk.layStep(2, {{{"q1", "s"}, {"q2", "GO"}, {"q3", "no"}, {"a1", "go"}},
+                         {{"q1", "s"}, {"q2", "go "}, {"q3", "no"}, {"a1", "go"}}});
+        core::Screen* screen = desk.run(form);
+        press(screen, "lblWord2(0)");
+        press(screen, "lblWord2(0)");
+        EXPECT_EQ(desk.scores(), QStringList{"2|50"}) << form;
+    }
 }
 
 TEST(TwoChoices, AClickAfterTheLastQuestionDoesNothingUntilBegin) {

@@ -218,5 +218,9 @@ TEST(Judges, TheFirstWordOfASentenceKeepsItsFormAndTheOthersLoseTheirs) {
     EXPECT_EQ(cutSentence("Word"), QStringList());
     EXPECT_EQ(cutSentence(""), QStringList());
     EXPECT_EQ(cutSentence("A  b"), (QStringList{"A", "", "b"}));
+    EXPECT_EQ(cutSentence("A b  c"), (QStringList{"A", "b", "c"}));
+    EXPECT_EQ(cutSentence("A b "), (QStringList{"A", "b"}));
+    EXPECT_EQ(cutSentence("A b - c"), (QStringList{"A", "b", "", "c"}));
+    EXPECT_EQ(cutSentence("A "), QStringList{"A"});
     EXPECT_EQ(cutSentence(" A b"), (QStringList{"", "a", "b"}));
 }

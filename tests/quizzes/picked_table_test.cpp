@@ -146,7 +146,7 @@ TEST(RowChoice, FifteenRowsFitAndTheSixteenthStopsTheFirstTick) {
     EXPECT_TRUE(visible(screen, "lblWord(14)"));
     EXPECT_TRUE(screen->rect().contains(part(screen, "lblWord(14)").geometry()));
     screen->unload();
-    for (const char* form : {"frmQuiz", "frmQuiz2", "frmQuiz9", "frmQuiz11"}) {
+    for (const char* form : {"frmQuiz", "frmQuiz2", "frmQuiz9", "frmQuiz11", "frmQuiz12"}) {
         QuizDesk other;
         other.layStep(2, rows(16));
         EXPECT_EQ(other.run(form), nullptr);
@@ -157,16 +157,14 @@ TEST(RowChoice, FifteenRowsFitAndTheSixteenthStopsTheFirstTick) {
     }
 }
 
-TEST(RowChoice, AMissingAnswerStopsTheCheckWithTheQuestion) {
+TEST(RowChoice, AChoiceThatDiffersInCapitalsAloneIsWrong) {
     QuizDesk desk;
-    auto made = rows(1);
-    made[0]["a1"] = "NULL";
-    desk.layStep(2, made);
+    desk.layStep(2, {{{"q1", "Q"}, {"q2", "May"}, {"q3", "may"}, {"a1", "May"}}});
     core::Screen* screen = desk.run("frmQuiz");
+    press(screen, "lblWord3(0)");
     press(screen, "picQuiz");
-    EXPECT_TRUE(desk.failure().contains(
-        QStringLiteral("Step 2 (frmQuiz): the question \"Q1\" has no value in its field a1")))
-        << desk.failure().toStdString();
+    EXPECT_EQ(label(screen, "lblWord4(0)").mark(), BoxMark::Wrong);
+    EXPECT_EQ(desk.boxes.texts(), QStringList{wrongMessage});
 }
 
 TEST(Pool, QuestionsAndAnswersStandInTwoOrders) {
@@ -278,6 +276,16 @@ TEST(Pool, PicksBeyondTheRowsAreNotLookedAtAndTheSixteenthStopsTheScreen) {
     EXPECT_EQ(desk.failure(), QString());
     press(screen, "lblWord3(1)");
     EXPECT_TRUE(desk.failure().contains(QStringLiteral("lblWord2(15)"))) << desk.failure().toStdString();
+}
+
+TEST(Pool, DigitsPickTheWordsOfTheFirstRowsThatStand) {
+    QuizDesk desk;
+    layPool(desk, 2);
+    core::Screen* screen = desk.run("frmQuiz11");
+    for (const Qt::Key key : {Qt::Key_2, Qt::Key_3, Qt::Key_1})
+        QTest::keyClick(screen, key);
+    EXPECT_EQ(caption(screen, "lblWord2(0)"), QStringLiteral("word2"));
+    EXPECT_EQ(caption(screen, "lblWord2(1)"), QStringLiteral("word1"));
 }
 
 TEST(Pool, ThePassOfTheFirstPoolStoresThenSounds) {

@@ -1,5 +1,6 @@
 // What the one-question-at-a-time screens share, told by frmQuiz7, the plainest of them.
 
+#include "quizzes/quiz_catalogue.h"
 #include "tests/quizzes/quiz_desk.h"
 
 using support::courseStore;
@@ -33,11 +34,11 @@ const QString endMessage =
 }  // namespace
 
 TEST(QuizEngine, AStepWithoutRowsStopsWithASentenceThatNamesIt) {
-    for (const char* form : {"frmQuiz", "frmQuiz2", "frmQuiz4", "frmQuiz7", "frmQuiz9", "frmQuiz12"}) {
+    for (const quizzes::QuizEntry& entry : quizzes::quizEntries()) {
         QuizDesk desk;
         desk.layStep(17, {});
-        EXPECT_EQ(desk.run(form), nullptr);
-        EXPECT_TRUE(desk.failure().contains(QStringLiteral("Step 17 (%1)").arg(QLatin1String(form))))
+        EXPECT_EQ(desk.run(entry.form), nullptr);
+        EXPECT_TRUE(desk.failure().contains(QStringLiteral("Step 17 (%1)").arg(QLatin1String(entry.form))))
             << desk.failure().toStdString();
         EXPECT_TRUE(desk.failure().contains(QStringLiteral("no questions")));
     }
@@ -54,6 +55,26 @@ TEST(QuizEngine, AMissingAnswerStopsTheScreenWithTheQuestionAndTheField) {
             QStringLiteral("Step 17 (frmQuiz7): the question \"Sentence 1\" has no value in its field %1")
                 .arg(QLatin1String(field))))
             << desk.failure().toStdString();
+    }
+}
+
+TEST(QuizEngine, AMissingAnswerEndsEveryScreenWithItsStepByTheCheckAtTheLatest) {
+    for (const quizzes::QuizEntry& entry : quizzes::quizEntries()) {
+        QuizDesk desk;
+        desk.layStep(17, {{{"q1", "Two words"},
+                           {"q2", "a"},
+                           {"q3", "1"},
+                           {"q4", "c"},
+                           {"q5", "d"},
+                           {"q6", "e"},
+                           {"q7", "f"},
+                           {"a1", "NULL"}}});
+        if (core::Screen* screen = desk.run(entry.form); screen != nullptr)
+            press(screen, "picQuiz");
+        EXPECT_TRUE(desk.failure().contains(
+            QStringLiteral("Step 17 (%1): the question \"Two words\" has no value in its field a1")
+                .arg(QLatin1String(entry.form))))
+            << entry.form << ": " << desk.failure().toStdString();
     }
 }
 

@@ -127,6 +127,15 @@ TEST(WordBoxes, FiveBoxesStopTheScreenWithTheQuestion) {
         << desk.failure().toStdString();
 }
 
+TEST(WordBoxes, ANumberOfBoxesThatIsNoNumberStopsTheScreenWithTheQuestion) {
+    QuizDesk desk;
+    desk.layStep(2, {words("two", "a b")});
+    EXPECT_EQ(desk.run("frmQuiz10"), nullptr);
+    EXPECT_TRUE(desk.failure().contains(
+        QStringLiteral("Step 2 (frmQuiz10): the question \"It is ____.\" asks for two boxes")))
+        << desk.failure().toStdString();
+}
+
 TEST(WordBoxes, AnAnswerOfFiveWordsStopsTheScreenAtTheJudge) {
     QuizDesk desk;
     desk.layStep(2, {words("1", "a b c d e")});

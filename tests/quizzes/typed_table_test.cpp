@@ -55,22 +55,41 @@ TEST(TypedColumn, ScratchFieldAndListOfWrongBoxesAreEmptyAtTheStart) {
     EXPECT_TRUE(desk.rows(courseStore, "Select * from blankno").isEmpty());
 }
 
-TEST(TypedColumn, CapitalsAndBlanksAroundAreRight) {
-    QuizDesk desk;
-    desk.layStep(2, rows(1));
-    core::Screen* screen = desk.run("frmQuiz2");
-    support::type(box(screen, "txtWord(0)"), "  ONE1 ");
-    press(screen, "picQuiz");
-    EXPECT_EQ(desk.scores(), QStringList{"2|100"});
-    EXPECT_EQ(desk.column("a2"), QStringList{"ONE1"});
+TEST(TypedTables, CapitalsAndBlanksAroundAreRight) {
+    for (const char* form : {"frmQuiz2", "frmQuiz9"}) {
+        QuizDesk desk;
+        desk.layStep(2, rows(1));
+        core::Screen* screen = desk.run(form);
+        support::type(box(screen, "txtWord(0)"), "  ONE1 ");
+        if (screen->findChild<QWidget*>(QStringLiteral("txtWord2(0)")) != nullptr)
+            support::type(box(screen, "txtWord2(0)"), " Two1  ");
+        press(screen, "picQuiz");
+        EXPECT_EQ(desk.scores(), QStringList{"2|100"}) << form;
+    }
 }
 
-TEST(TypedColumn, AnEmptyBoxIsAWrongAnswerAndNothingAsksForATextFirst) {
-    QuizDesk desk;
-    desk.layStep(2, rows(1));
-    core::Screen* screen = desk.run("frmQuiz2");
-    press(screen, "picQuiz");
-    EXPECT_EQ(desk.boxes.texts(), QStringList{wrongByButton});
+TEST(TypedTables, WhatWasTypedStaysInTheTableWhenTheScreenCloses) {
+    for (const bool two : {false, true}) {
+        QuizDesk desk;
+        desk.layStep(2, rows(1));
+        desk.layTable();
+        core::Screen* screen = desk.run(two ? "frmQuiz9" : "frmQuiz2");
+        box(screen, "txtWord(0)").setText(QStringLiteral(" One "));
+        press(screen, "picQuiz");
+        press(screen, "picTable");
+        EXPECT_NE(desk.awaitScreen(QStringLiteral("frmTable")), nullptr) << desk.failure().toStdString();
+        EXPECT_EQ(desk.column(two ? "q2" : "a2"), QStringList{"One"});
+        EXPECT_EQ(desk.column("orderno"), QStringList{"1"});
+    }
+}
+
+TEST(TypedTables, AnEmptyBoxIsAWrongAnswerAndNothingAsksForATextFirst) {
+    for (const char* form : {"frmQuiz2", "frmQuiz9"}) {
+        QuizDesk desk;
+        desk.layStep(2, rows(1));
+        press(desk.run(form), "picQuiz");
+        EXPECT_EQ(desk.boxes.texts(), QStringList{wrongByButton}) << form;
+    }
 }
 
 TEST(TypedColumn, AFailedCheckLocksTheWrongBoxesAndListsThem) {
@@ -205,6 +224,17 @@ TEST(TwoTypedColumns, QuestionsStandInLowerCaseAndTheTeacherGetsNoHelp) {
     EXPECT_EQ(box(screen, "txtWord(0)").text(), QString());
 }
 
+TEST(TwoTypedColumns, WhatWasTypedBeforeIsNotClearedAtTheStart) {
+    QuizDesk desk;
+    auto made = rows(1);
+    made[0]["q2"] = "old";
+    made[0]["q3"] = "older";
+    desk.layStep(2, made);
+    core::Screen* screen = desk.run("frmQuiz9");
+    EXPECT_EQ(desk.column("q2 || '/' || q3"), QStringList{"old/older"});
+    EXPECT_EQ(box(screen, "txtWord(0)").text(), QString());
+}
+
 TEST(TwoTypedColumns, EachColumnHasItsOwnListOfWrongBoxes) {
     QuizDesk desk;
     desk.layStep(2, rows(3));
@@ -332,4 +362,25 @@ TEST(TwoTypedColumns, AFinalQuizThatEndsByEnterStores100WhateverCameBefore) {
         EXPECT_EQ(desk.scores(), QStringList{byEnter ? "20|100" : "20|50"});
         EXPECT_EQ(static_cast<int>(desk.session.finalStepScores[1]), byEnter ? 0 : 100);
     }
+}
+
+TEST(TwoTypedColumns, AStepOfAFinalQuizPassedByEnterKeepsNoScoreAndBringsUpTheNext) {
+    QuizDesk desk;
+    desk.layStep(2, rows(1));
+    desk.exec(courseStore,
+              "Insert into quiz_data_New3 (topicno, recordno, q1, q2, q3, a1, a2) values "
+              "(1, 3, 't', 'x', 'y', 'x', '');"
+              "Insert into tablework_Final (recordno, topicno, pageno, Title, useform) values "
+              "(2, 1, 2, 'a', 'frmQuiz9'), (3, 1, 3, 'b', 'frmQuiz7')");
+    desk.enterFinal(1, 2);
+    desk.session.finalStepScores[0] = 7;
+    core::Screen* screen = desk.run("frmQuiz9");
+    fill(screen, "txtWord", "one", 1);
+    fill(screen, "txtWord2", "two", 1);
+    pressEnter(screen, "txtWord2(0)");
+    EXPECT_NE(desk.awaitScreen(QStringLiteral("frmQuiz7")), nullptr) << desk.failure().toStdString();
+    EXPECT_EQ(static_cast<int>(desk.session.finalStepScores[0]), 7);
+    EXPECT_EQ(static_cast<int>(desk.session.finalStepNo), 2);
+    EXPECT_TRUE(desk.boxes.shown.empty());
+    EXPECT_TRUE(desk.scores().isEmpty());
 }

@@ -197,3 +197,15 @@ TEST(WrongWord, DigitsInTheBoxStayTyping) {
     EXPECT_EQ(box(screen, "txtWord").text(), QStringLiteral("12345"));
     EXPECT_EQ(caption(screen, "lblWord3"), QString());
 }
+
+TEST(WrongWord, ADigitOutsideTheBoxPicksTheWordOfItsPlace) {
+    QuizDesk desk;
+    desk.layStep(34, {sentence()});
+    core::Screen* screen = desk.run("frmQuiz4");
+    part(screen, "picTable").setFocus();
+    QTest::keyClick(&part(screen, "picTable"), Qt::Key_4);
+    EXPECT_EQ(caption(screen, "lblWord3"), QString());
+    QTest::keyClick(&part(screen, "picTable"), Qt::Key_2);
+    EXPECT_EQ(caption(screen, "lblWord3"), QStringLiteral("go"));
+    EXPECT_EQ(support::focusName(screen), QStringLiteral("txtWord"));
+}

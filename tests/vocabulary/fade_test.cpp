@@ -43,3 +43,13 @@ TEST(Fade, LeavesNoPictureWhereAnimationsAreTurnedOff) {
     EXPECT_TRUE(control.isHidden());
     EXPECT_EQ(children(window), 1);
 }
+
+TEST(Fade, IsTakenAwayWhereSomethingElseComesInItsPlace) {
+    QWidget window;
+    QLabel control(QStringLiteral("leaf"), &window);
+    window.show();
+    vocabulary::fadeAway(control);
+    vocabulary::endFades(window);
+    EXPECT_EQ(children(window), 1);
+    EXPECT_TRUE(control.isHidden());
+}

@@ -23,6 +23,8 @@ TEST(SpellingCoach, OpensOnTheFirstWordWithItsMeaningHintAndSound) {
         EXPECT_FALSE(shown(form, hidden)) << hidden;
     for (const char* visible : {"picNext", "picPre", "picTable", "picExit", "cmdAnswer", "cmdPractice"})
         EXPECT_TRUE(shown(form, visible)) << visible;
+    EXPECT_EQ(standsAt(form, "picNext"), QPoint(872, 456));
+    EXPECT_EQ(standsAt(form, "picPre"), QPoint(872, 560));
 }
 
 TEST(SpellingCoach, CarriesItsFixedCaptionsToTheCharacter) {
@@ -40,8 +42,10 @@ TEST(SpellingCoach, CarriesItsFixedCaptionsToTheCharacter) {
           Case{"Label5", "Current No."}, Case{"Label3", "Total No."}, Case{"Label4", "Next Quiz"},
           Case{"Label6", "Back to Table"}})
         EXPECT_EQ(label(form, c.name).caption(), QString::fromUtf8(c.text));
-    EXPECT_EQ(find<platform::CommandButton>(form, QStringLiteral("cmdNextQuiz")).text(),
-              QStringLiteral("Next Quiz "));
+    for (const Case& c :
+         {Case{"cmdAnswer", "Next Quiz"}, Case{"cmdPractice", "Practice"}, Case{"cmdMakeQuiz", "Make Quiz"},
+          Case{"cmdNextQuiz", "Next Quiz "}, Case{"cmdNextQuiz2", "Next Quiz 2"}})
+        EXPECT_EQ(find<platform::CommandButton>(form, QLatin1String(c.name)).text(), QLatin1String(c.text));
 }
 
 TEST(SpellingCoach, WordsOfTwoOrOfSeventeenLettersAreDroppedSilently) {
@@ -137,6 +141,17 @@ TEST(SpellingCoach, GoesBackToTheTableByBothItsButtons) {
             << button << desk.failure().toStdString();
         EXPECT_EQ(desk.rows(support::scoreStore, "select * from score").size(), 0);
     }
+}
+
+TEST(SpellingCoach, ExitEndsTheProgramWithoutAQuestionOrARecord) {
+    WordDesk desk(three);
+    QWidget* form = openCoach(desk);
+    answer(form, "leaf");
+    click(find(form, QStringLiteral("picExit")));
+    EXPECT_TRUE(desk.screens().ended());
+    EXPECT_FALSE(desk.session.allwordRs.isOpen() || desk.session.dictionaryDb.isOpen());
+    EXPECT_TRUE(desk.boxes.shown.empty());
+    EXPECT_EQ(desk.rows(support::scoreStore, "select * from score").size(), 0);
 }
 
 TEST(SpellingCoach, NothingPressedBeforeTheListHasComeDisturbsIt) {

@@ -151,6 +151,31 @@ TEST(SpellingRows, AFirstHiddenLetterBeyondTheEighthBoxGetsNoFocus) {
     EXPECT_EQ(focusName(form), QStringLiteral("txtType2(9)"));
 }
 
+TEST(SpellingRows, AFirstHiddenConsonantBeyondTheEighthBoxGetsNoFocusEither) {
+    WordDesk desk(oneWord("aeaeaeaeab", "아"));
+    QWidget* form = openCoach(desk);
+    practise(form);
+    spell(form, "aeaeaeaeabaeaeaeaeab");
+    spell(form, "aeaeaeaea");
+    EXPECT_EQ(rowText(form, "txtType4"), QStringLiteral("aeaeaeaea_"));
+    EXPECT_EQ(focusName(form), QStringLiteral("txtType3(8)"));
+}
+
+TEST(SpellingRows, PracticePressedInALaterRowStartsOverWithTheWordInSight) {
+    WordDesk desk(three);
+    QWidget* form = openCoach(desk);
+    practise(form);
+    spell(form, "leafleaf");
+    EXPECT_FALSE(shown(form, "lblHint"));
+    practise(form);
+    EXPECT_TRUE(shown(form, "lblHint"));
+    EXPECT_EQ(label(form, "lblHint").caption(), QStringLiteral("leaf"));
+    EXPECT_FALSE(shown(form, "picUp"));
+    EXPECT_EQ(rowText(form, "txtType1"), QStringLiteral("____"));
+    EXPECT_EQ(rowText(form, "txtType3"), QStringLiteral("????"));
+    EXPECT_EQ(focusName(form), QStringLiteral("txtType1(0)"));
+}
+
 TEST(SpellingRows, TheThirdRowIsJudgedWhereSixLockedBoxesFollowThoughALaterBoxIsEmpty) {
     WordDesk desk(oneWord("abcdfghjka", "아"));
     QWidget* form = openCoach(desk);
@@ -198,6 +223,9 @@ TEST(SpellingRows, AWrongVowelRowIsBuiltAgainWithoutLimitAndWithoutAMiss) {
     }
     spell(form, "ea");
     EXPECT_EQ(rowText(form, "txtType4"), QStringLiteral("_ea_"));
+    answer(form, "lief");
+    EXPECT_TRUE(desk.boxes.lastText().startsWith(QStringLiteral("틀린 답을 입력하였습니다.  다시")))
+        << "the second chance still stands";
 }
 
 TEST(SpellingRows, AWholeWordWithAGapIsToldAndAskedForAgain) {

@@ -70,6 +70,11 @@ inline void spell(const QWidget* form, const char* letters) {
         QTest::keyClick(form->focusWidget(), *letter);
 }
 
+/// Where a control stands on the form as designed.
+inline QPoint standsAt(const QWidget* form, const char* name) {
+    return support::find<QWidget>(form, QLatin1String(name)).property("designRect").toRect().topLeft();
+}
+
 inline bool shown(const QWidget* form, const char* name) {
     return !support::find<QWidget>(form, QLatin1String(name)).isHidden();
 }

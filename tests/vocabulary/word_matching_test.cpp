@@ -1,3 +1,5 @@
+#include "vocabulary/word_matching.h"
+
 #include "tests/vocabulary/word_desk.h"
 
 #include <gtest/gtest.h>
@@ -108,6 +110,20 @@ TEST(WordMatching, ShowsTenWordsAndTheirMeaningsInOrdersOfTheirOwn) {
     }
 }
 
+TEST(WordMatching, ShowsNothingButItsFrameUntilTheListHasCome) {
+    WordDesk desk(manyWords(10));
+    const vocabulary::WordMatching form(desk.context());
+    EXPECT_FALSE(shown(&form, "picNext"));
+    EXPECT_EQ(shownPairs(&form), 0);
+    EXPECT_EQ(standsAt(&form, "picNext"), QPoint(872, 456));
+    EXPECT_EQ(standsAt(&form, "picPre"), QPoint(872, 560));
+    for (int i = 0; i < 10; ++i) {
+        EXPECT_EQ(word(&form, i).caption() + definition(&form, i).caption(), QString());
+        EXPECT_EQ(word(&form, i).cursor().shape(), Qt::BitmapCursor);
+        EXPECT_EQ(definition(&form, i).cursor().shape(), Qt::BitmapCursor);
+    }
+}
+
 TEST(WordMatching, CarriesItsFixedCaptionsToTheCharacter) {
     WordDesk desk(manyWords(3));
     const QWidget* form = openMatching(desk);
@@ -153,6 +169,10 @@ TEST(WordMatching, FourteenWordsArePlayedOnTwoPagesOfTenAndFour) {
     for (int i = 0; i < 4; ++i)
         EXPECT_EQ(word(form, i).foreColor(), platform::colour::black);
     EXPECT_TRUE(desk.boxes.shown.empty());
+    EXPECT_EQ(desk.rows(testWordStore, "select word from testword6 where orderno<=10 and orderno2<>0").size(),
+              0);
+    EXPECT_TRUE(form->findChildren<QWidget*>(QStringLiteral("fading")).isEmpty())
+        << "nothing of the first page fades over the second";
     matchPage(form);
     EXPECT_EQ(
         desk.boxes.lastText(),
@@ -247,11 +267,33 @@ TEST(WordMatching, AMoveOverAMeaningTurnsItRedAndTheOthersBlack) {
     hover(*form);
     hover(definition(form, 1));
     EXPECT_EQ(definition(form, 1).foreColor(), platform::colour::red);
-    hover(*form);
     hover(definition(form, 3));
     EXPECT_EQ(definition(form, 1).foreColor(), platform::colour::black);
     EXPECT_EQ(definition(form, 3).foreColor(), platform::colour::red);
     EXPECT_TRUE(desk.sound.played.empty());
+}
+
+TEST(WordMatching, AMeaningNeitherClosesTheHoverStateNorTurnsRedWhileAButtonIsLit) {
+    WordDesk desk(manyWords(4));
+    QWidget* form = openMatching(desk);
+    hover(*form);
+    hover(definition(form, 1));
+    hover(find(form, QStringLiteral("picNext")));
+    EXPECT_EQ(desk.sound.names(), QStringList{QStringLiteral("touchit.wav")});
+    hover(definition(form, 2));
+    EXPECT_EQ(definition(form, 1).foreColor(), platform::colour::red);
+    EXPECT_EQ(definition(form, 2).foreColor(), platform::colour::black);
+}
+
+TEST(WordMatching, OfTwoWordsWithOneMeaningEachBelongsToItsOwnPlace) {
+    WordDesk desk({{"big", "큰"}, {"large", "큰"}});
+    QWidget* form = openMatching(desk);
+    const int own = desk.row(testWordStore, "select orderno2 from testword6 where orderno=1").toInt() - 1;
+    choose(form, 0);
+    click(definition(form, 1 - own));
+    EXPECT_EQ(desk.sound.names(), QStringList{QStringLiteral("wrongit.wav")});
+    click(definition(form, own));
+    EXPECT_EQ(shownPairs(form), 1);
 }
 
 TEST(WordMatching, AWordIsChosenAndMatchedFromTheKeyboardToo) {
@@ -296,6 +338,16 @@ TEST(WordMatching, LeavesForTheQuizTheCoachOrTheTableAtAnyTimeWithoutARecord) {
         EXPECT_NE(desk.awaitScreen(QLatin1String(screen)), nullptr) << screen << desk.failure().toStdString();
         EXPECT_EQ(desk.rows(support::scoreStore, "select * from score").size(), 0);
     }
+}
+
+TEST(WordMatching, ExitEndsTheProgramWithoutAQuestionOrARecord) {
+    WordDesk desk(manyWords(4));
+    QWidget* form = openMatching(desk);
+    match(form, 0);
+    click(find(form, QStringLiteral("picExit")));
+    EXPECT_TRUE(desk.screens().ended());
+    EXPECT_TRUE(desk.boxes.shown.empty());
+    EXPECT_EQ(desk.rows(support::scoreStore, "select * from score").size(), 0);
 }
 
 TEST(WordMatching, AnEmptyWordBookIsToldInASentenceAndTheTableOpens) {

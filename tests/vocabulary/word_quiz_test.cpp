@@ -113,6 +113,16 @@ TEST(VocabularyQuiz, AWordTypedWholeIsJudgedByItselfSpokenAndFollowedByTheNext) 
     EXPECT_EQ(focusName(form), QStringLiteral("txtType1(0)"));
 }
 
+TEST(VocabularyQuiz, ARightWordStaysInItsBoxesUntilTheNextOneComes) {
+    WordDesk desk(two);
+    core::Screen* form = beginQuiz(desk);
+    const QString first = wordOnShow(desk, form);
+    spell(form, first.toLatin1().constData());
+    EXPECT_EQ(label(form, "lblNow").caption(), QStringLiteral("1"));
+    EXPECT_EQ(box(form, "txtType1", 0).text(), first.left(1));
+    EXPECT_TRUE(waitFor([&] { return label(form, "lblNow").caption() == QStringLiteral("2"); }));
+}
+
 TEST(VocabularyQuiz, AllWordsAtFirstTryGiveAHundredAndTheScreenHandsOverByItself) {
     WordDesk desk(two);
     desk.session.useForm = QStringLiteral("frmNone");
@@ -292,6 +302,16 @@ TEST(VocabularyQuiz, GoesBackToMatchingOrTheTable) {
         click(find(openQuiz(desk), QLatin1String(button)));
         EXPECT_NE(desk.awaitScreen(QLatin1String(screen)), nullptr) << screen << desk.failure().toStdString();
     }
+}
+
+TEST(VocabularyQuiz, ExitEndsTheProgramWithoutAQuestionOrARecord) {
+    WordDesk desk(two);
+    core::Screen* form = beginQuiz(desk);
+    typeRight(desk, form);
+    click(find(form, QStringLiteral("picExit")));
+    EXPECT_TRUE(desk.screens().ended());
+    EXPECT_TRUE(desk.boxes.shown.empty());
+    EXPECT_EQ(desk.results(), QString());
 }
 
 TEST(VocabularyQuiz, TheFirstShuffleChoosesTheWordsAndTheSecondTheirOrder) {

@@ -1,0 +1,31 @@
+#include "vocabulary/word_player.h"
+
+#include "tests/support/recorder.h"
+
+#include <gtest/gtest.h>
+
+namespace {
+
+/// Keeps apart what plays on its own and what a media player plays beside it.
+class TwoVoices final : public platform::SoundPlayer {
+   public:
+    QStringList alone;
+    QStringList beside;
+    void play(const QString& file, bool) override { alone.append(file); }
+    void playBeside(const QString& file) override { beside.append(file); }
+};
+
+}  // namespace
+
+TEST(WordPlayer, SpeaksBesideAnEffectThatStillPlays) {
+    support::Desk desk;
+    support::RecordingNavigator navigator;
+    TwoVoices voices;
+    const core::Context context = support::contextWith(desk, navigator, &voices);
+    vocabulary::WordPlayer player(context, QStringLiteral("Web1"), nullptr);
+    const QString url = QStringLiteral("D:\\A_Mendori\\ABCSound\\leaf.wav");
+    player.setUrl(url);
+    EXPECT_EQ(player.url(), url);
+    EXPECT_EQ(voices.beside, QStringList{desk.file(url)});
+    EXPECT_EQ(voices.alone, QStringList{});
+}
