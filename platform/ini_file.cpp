@@ -11,7 +11,7 @@ namespace platform {
 
 namespace {
 
-const QString byteOrderMark(QChar(QChar::ByteOrderMark));
+const QString byteOrderMark{QChar(QChar::ByteOrderMark)};
 
 QStringList readLines(const QString& file) {
     QFile opened(file);
