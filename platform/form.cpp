@@ -1,5 +1,6 @@
 #include "platform/form.h"
 
+#include <QApplication>
 #include <QCloseEvent>
 #include <QGuiApplication>
 #include <QMouseEvent>
@@ -185,6 +186,16 @@ void Form::closeEvent(QCloseEvent* event) {
     event->ignore();
     if (onCloseRequest)
         onCloseRequest();
+}
+
+// A control that is hidden or disabled while it has the keyboard leaves it to the form: its neighbour in the
+// order of Tab may be the way out of the program.
+bool Form::focusNextPrevChild(bool next) {
+    const QWidget* focused = QApplication::focusWidget();
+    if (focused == nullptr || (focused->isVisible() && focused->isEnabled()))
+        return QWidget::focusNextPrevChild(next);
+    setFocus();
+    return true;
 }
 
 }  // namespace platform

@@ -69,6 +69,7 @@ class Form : public QWidget {
     void paintEvent(QPaintEvent* event) override;
     void mouseMoveEvent(QMouseEvent* event) override;
     void closeEvent(QCloseEvent* event) override;
+    bool focusNextPrevChild(bool next) override;
 
    private:
     QRect scaled(const QRect& designRect) const;

@@ -66,6 +66,31 @@ TEST(Form, ItsPictureFillsItAndKeepsItsFileName) {
     EXPECT_EQ(shown.pixelColor(198, 98), QColor(Qt::red));
 }
 
+TEST(Form, AControlThatGoesWithTheKeyboardInItsHandLeavesItToTheForm) {
+    Form form("frmTest", QSize(200, 100), nullptr);
+    platform::TextBox& box = form.addTextBox("txtWord", QRect(0, 0, 50, 20), TextRole::Answer);
+    platform::PictureButton& exit = form.addPictureButton("picExit", QRect(60, 0, 20, 20), "Exit");
+    int clicks = 0;
+    exit.onClick = [&] { ++clicks; };
+    form.show();
+    form.activateWindow();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&form));
+    for (const bool hides : {true, false}) {
+        box.setFocus();
+        ASSERT_TRUE(box.hasFocus());
+        hides ? box.hide() : box.setEnabled(false);
+        EXPECT_FALSE(exit.hasFocus());
+        EXPECT_TRUE(form.hasFocus());
+        QTest::keyClick(QApplication::focusWidget(), Qt::Key_Space);
+        EXPECT_EQ(clicks, 0);
+        box.show();
+        box.setEnabled(true);
+    }
+    box.setFocus();
+    QTest::keyClick(&box, Qt::Key_Tab);
+    EXPECT_TRUE(exit.hasFocus()) << "Tab goes on as ever";
+}
+
 TEST(Form, UnloadingTakesItOffTheScreenOnce) {
     int unloads = 0;
     QPointer<Form> form = new Form("frmTest", QSize(200, 100), nullptr);
