@@ -31,6 +31,13 @@ core::Screen* ScreenLoop::top() const {
     return screens.empty() ? nullptr : screens.back();
 }
 
+core::Screen* ScreenLoop::findStanding(const QString& screen) const {
+    const auto screens = standing();
+    const auto found = std::find_if(screens.begin(), screens.end(),
+                                    [&](const core::Screen* one) { return one->objectName() == screen; });
+    return found == screens.end() ? nullptr : *found;
+}
+
 void ScreenLoop::later(std::function<void()> work) {
     QMetaObject::invokeMethod(
         this,
@@ -48,18 +55,25 @@ void ScreenLoop::show(const QString& screen, const std::function<void()>& closed
             closed();
         return;
     }
+    // A form stands once: what a second press asks for before the first has opened it is there already.
+    if (core::Screen* already = findStanding(screen)) {
+        already->raise();
+        already->activateWindow();
+        return;
+    }
     core::Screen* form = (*maker)(*context_);
     standing_.erase(std::remove_if(standing_.begin(), standing_.end(),
                                    [](const auto& gone) { return !gone || gone->isUnloaded(); }),
                     standing_.end());
     standing_.emplace_back(form);
     form->onUnload = [this, closed] { screenGone(closed); };
+    // The keyboard starts on the form itself, told before the window can become active: else it would start
+    // on the first button, and on most screens a Space there ends the program.
+    if (form->focusWidget() == nullptr)
+        form->setFocus();
     form->show();
     form->raise();
     form->activateWindow();
-    // The keyboard starts on the form itself, so that no button shows a focus mark before Tab was pressed.
-    if (form->focusWidget() == nullptr)
-        form->setFocus();
 }
 
 void ScreenLoop::screenGone(const std::function<void()>& closed) {

@@ -38,6 +38,7 @@ class ScreenLoop final : public QObject, public core::Navigator {
     core::Screen* top() const;
 
    private:
+    core::Screen* findStanding(const QString& screen) const;
     void later(std::function<void()> work);
     void show(const QString& screen, const std::function<void()>& closed);
     void screenGone(const std::function<void()>& closed);

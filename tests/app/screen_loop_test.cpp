@@ -21,7 +21,9 @@ namespace {
 /// A bare screen that does what a test tells it once it stands.
 class BareScreen final : public core::Screen {
    public:
-    BareScreen(core::Context& context, const QString& name) : Screen(context, name, QSize(200, 100)) {}
+    BareScreen(core::Context& context, const QString& name) : Screen(context, name, QSize(200, 100)) {
+        addPictureButton("picExit", QRect(0, 0, 20, 20), "Exit").onClick = [this] { endProgram(); };
+    }
     using Screen::endProgram;
 };
 
@@ -109,6 +111,34 @@ TEST_F(ScreenLoopTest, AScreenOverAnotherGivesTheKeyboardBackWhenItGoes) {
     settle();
     EXPECT_EQ(loop->top(), a);
     EXPECT_TRUE(waitFor([&] { return a->isActiveWindow(); }));
+}
+
+TEST_F(ScreenLoopTest, AScreenThatStandsIsBroughtForwardAndNotMadeASecondTime) {
+    core::Screen* a = open("frmA");
+    loop->open("frmB");
+    loop->open("frmB", [this] { log.append("closed"); });
+    settle();
+    EXPECT_EQ(log, (QStringList{"load frmA", "load frmB"}));
+    EXPECT_EQ(loop->standing().size(), 2U);
+    loop->top()->unload();
+    settle();
+    EXPECT_EQ(loop->top(), a);
+    EXPECT_NE(open("frmB"), nullptr) << "once gone it can come again";
+    EXPECT_EQ(log.size(), 3);
+}
+
+TEST_F(ScreenLoopTest, TheKeyboardStartsOnTheFormSoThatSpaceEndsNothing) {
+    core::Screen* a = open("frmA");
+    ASSERT_TRUE(waitFor([&] { return a->isActiveWindow(); }));
+    EXPECT_EQ(QApplication::focusWidget(), a);
+    QTest::keyClick(QApplication::focusWidget(), Qt::Key_Space);
+    EXPECT_FALSE(loop->ended());
+    QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
+    EXPECT_EQ(support::focusName(a), "picExit") << "by keyboard it is reached on purpose";
+    core::Screen* b = open("frmB");
+    b->unload();
+    settle();
+    EXPECT_FALSE(loop->ended());
 }
 
 TEST_F(ScreenLoopTest, AScreenThatCannotLoadEndsInTheOnePlaceForFailures) {
