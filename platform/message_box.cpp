@@ -1,12 +1,35 @@
 #include "platform/message_box.h"
 
 #include <QApplication>
+#include <QCloseEvent>
+#include <QKeyEvent>
 #include <QMessageBox>
 #include <QPointer>
 
 namespace platform {
 
 namespace {
+
+/// A box that goes with one of its buttons alone where it asks for Yes or No: Esc is neither of the two.
+class Box final : public QMessageBox {
+   public:
+    Box(bool asks, QWidget* parent) : QMessageBox(parent), asks_(asks) {}
+
+   protected:
+    void keyPressEvent(QKeyEvent* event) override {
+        if (!asks_ || !event->matches(QKeySequence::Cancel))
+            QMessageBox::keyPressEvent(event);
+    }
+    void closeEvent(QCloseEvent* event) override {
+        if (asks_)
+            event->ignore();
+        else
+            QMessageBox::closeEvent(event);
+    }
+
+   private:
+    bool asks_;
+};
 
 QMessageBox::Icon boxIcon(BoxIcon icon) {
     switch (icon) {
@@ -36,7 +59,7 @@ void dressBox(QMessageBox& box) {
 
 bool DesktopBoxes::show(const Message& message) {
     const QPointer<QWidget> asking = QApplication::activeWindow();
-    QMessageBox box(asking);
+    Box box(message.yesNo, asking);
     box.setObjectName(QStringLiteral("messageBox"));
     dressBox(box);
     box.setText(message.text);

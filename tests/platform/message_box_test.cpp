@@ -72,6 +72,29 @@ TEST(DesktopBoxes, AQuestionGivesTheLearnersAnswer) {
     }
 }
 
+TEST(DesktopBoxes, AQuestionIsAnsweredByItsTwoButtonsAlone) {
+    DesktopBoxes boxes;
+    bool stood = false;
+    QTimer::singleShot(0, [&] {
+        auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
+        ASSERT_NE(box, nullptr);
+        QTest::keyClick(box, Qt::Key_Escape);
+        QTest::keyClick(box->button(QMessageBox::Yes), Qt::Key_Escape);
+        box->close();
+        stood = box->isVisible();
+        QTest::mouseClick(box->button(QMessageBox::Yes), Qt::LeftButton);
+    });
+    EXPECT_TRUE(boxes.ask("다음?", "Tovalin"));
+    EXPECT_TRUE(stood);
+}
+
+TEST(DesktopBoxes, EscapeClosesANotice) {
+    DesktopBoxes boxes;
+    QTimer::singleShot(0, [&] { QTest::keyClick(QApplication::activeModalWidget(), Qt::Key_Escape); });
+    boxes.notice("끝났습니다.");
+    EXPECT_EQ(QApplication::activeModalWidget(), nullptr);
+}
+
 TEST(DesktopBoxes, AStopBoxCarriesTheStopIcon) {
     DesktopBoxes boxes;
     const Seen seen = answer(QMessageBox::Ok, [&] {
