@@ -33,8 +33,8 @@ LoginPanel::LoginPanel(Context& context) : Screen(context, QStringLiteral("frmLo
 
     frameCount_ = 0;
     movePlace(*picWait_, 0, 0);
-    loadPicture(*picWait_, QStringLiteral("interface\\login.jpg"));
-    loadPicture(*picBar_, QStringLiteral("button\\bar2.jpg"));
+    loadDesignPicture(*picWait_, QStringLiteral("interface\\login.jpg"));
+    loadDesignPicture(*picBar_, QStringLiteral("button\\bar2.jpg"));
     timer2_->setEnabled(true);
 }
 

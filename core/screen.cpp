@@ -32,6 +32,14 @@ void Screen::loadPicture(platform::PictureButton& button, const QString& relativ
                       fileName(relativePath));
 }
 
+void Screen::loadDesignPicture(platform::PictureButton& button, const QString& relativePath) {
+    const auto picture = applicationFile(context_, relativePath);
+    if (context_.drives.fileLength(picture.shownName) > 0)
+        loadPicture(button, relativePath);
+    else
+        button.setPicture(QPixmap(), fileName(relativePath));
+}
+
 void Screen::setHandCursor(QWidget& control, const QString& file) {
     const auto picture = applicationFile(context_, file);
     control.setCursor(platform::loadCursor(picture.file, picture.shownName));

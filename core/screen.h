@@ -19,6 +19,9 @@ class Screen : public platform::Form {
     /// Shows a picture of the application folder ("interface\\quiz.jpg") as the form's ground.
     void loadBackground(const QString& relativePath);
     void loadPicture(platform::PictureButton& button, const QString& relativePath);
+    /// The picture that a control begins with. It belongs to the form's design, so a form comes up without
+    /// the file too, and only the loading of a picture later on fails.
+    void loadDesignPicture(platform::PictureButton& button, const QString& relativePath);
     /// The hand cursor that came with the course.
     void setHandCursor(QWidget& control, const QString& file);
 

@@ -70,7 +70,7 @@ void CourseTable::buildHeader() {
         const HoverButton& button = hoverButtons[i];
         buttons_[i] =
             &addPictureButton(QLatin1String(button.name), button.place, QLatin1String(button.spoken));
-        loadPicture(*buttons_[i], buttonPicture(button.picture, 1));
+        loadDesignPicture(*buttons_[i], buttonPicture(button.picture, 1));
         buttons_[i]->onMouseMove = [this, i] { buttonHovered(i); };
     }
     picDown_ = buttons_[downButton];
@@ -130,7 +130,7 @@ void CourseTable::buildRows() {
         PictureButton& star = addPictureButton(picScore_.memberName(i), QRect(884, y - 1, 20, 20),
                                                QStringLiteral("Full marks"));
         star.setFocusPolicy(Qt::NoFocus);
-        loadPicture(star, QStringLiteral("button\\star.jpg"));
+        loadDesignPicture(star, QStringLiteral("button\\star.jpg"));
         picScore_.add(&star);
     }
     lblCurrentPage_ = &addLabel(QStringLiteral("lblCurrentPage"), QRect(826, 648, 40, 22), TextRole::Caption);

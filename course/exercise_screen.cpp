@@ -22,6 +22,7 @@ QString picturePath(const char* picture, int state) {
 
 ExerciseScreen::ExerciseScreen(core::Context& context, const QString& name, const ChromeLayout& layout)
     : Screen(context, name, exerciseSize) {
+    setAccessibleName(session().stepTitle);
     loadBackground(QStringLiteral("interface\\") + QLatin1String(layout.picture));
     buildChrome(layout);
     buildCaptions(layout);
@@ -37,7 +38,7 @@ void ExerciseScreen::buildChrome(const ChromeLayout& layout) {
     const auto add = [this](const char* name, const char* picture, const QRect& place, const char* spoken,
                             void (ExerciseScreen::*clicked)()) {
         PictureButton& button = addPictureButton(QLatin1String(name), place, QLatin1String(spoken));
-        loadPicture(button, picturePath(picture, 1));
+        loadDesignPicture(button, picturePath(picture, 1));
         button.setCursor(Qt::PointingHandCursor);
         button.onMouseMove = [this, &button, picture, isExit = clicked == &ExerciseScreen::exitClicked] {
             buttonHovered(button, picture, isExit);

@@ -67,8 +67,7 @@ class ExerciseScreen : public core::Screen {
 
     /// A label that lights up while this holds leaves the hover state as it is.
     bool hoverOpen() const { return hoverArmed_ == 1; }
-    /// A label of the form that moves its hover state like a button but has no picture: true when armed, and
-    /// then spends it.
+    /// For a further button of a screen: true when armed, and then spends it.
     bool spendHover();
 
     bool loading() const { return timerGo_->enabled(); }

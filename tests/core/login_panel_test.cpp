@@ -71,6 +71,13 @@ TEST_F(LoginPanelTest, TheBarRunsThroughItsPicturesAndStartsAgain) {
                                   "bar8.jpg", "bar9.jpg", "bar10.jpg", "bar10.jpg", "bar2.jpg", "bar3.jpg"}));
 }
 
+TEST_F(LoginPanelTest, ComesUpWithoutTheFilesOfItsPictures) {
+    context.applicationFolder = "H:\\Nowhere";
+    const core::LoginPanel bare(context);
+    EXPECT_EQ(find(&bare, "picWait").property("picture").toString(), "login.jpg");
+    EXPECT_EQ(desk.failure(), "");
+}
+
 TEST(StudyTime, CountsSecondsUnderItsTitle) {
     Desk desk;
     core::StudyTime form(desk.context());

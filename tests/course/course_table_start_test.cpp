@@ -248,3 +248,10 @@ TEST_F(CourseTableHover, AMissingPictureEndsTheRunOnTheFirstMove) {
     support::hover(picture("picStudy"));
     EXPECT_TRUE(desk.failure().contains("'53'")) << desk.failure().toStdString();
 }
+
+TEST_F(CourseTableHover, ComesUpWithoutTheFilesOfItsButtonsAndStarsAtRest) {
+    QFile::remove(desk.root() + "/D/button");
+    openTable();
+    EXPECT_EQ(desk.failure(), "");
+    EXPECT_EQ(pictureOf("picStudy"), "study1.jpg");
+}

@@ -93,6 +93,7 @@ TEST_F(ExerciseChrome, HasTheSizeTheTitleAndTheBackgroundOfItsLoadStep) {
     EXPECT_EQ(screen->size(), QSize(993, 718));
     EXPECT_EQ(screen->property("picture").toString(), "Main1.jpg");
     EXPECT_EQ(find<platform::Label>(screen, "lblTopic").caption(), "명사 3");
+    EXPECT_EQ(screen->accessibleName(), "명사 3");
 }
 
 TEST_F(ExerciseChrome, TheButtonsStandAtTheirPlacesInTheUpperLayout) {
@@ -236,6 +237,16 @@ TEST_F(ExerciseChrome, AMissingPictureEndsTheRunOnTheFirstMove) {
     QFile::remove(folder);
     support::hover(button("picNext"));
     EXPECT_TRUE(desk.failure().contains("'53'") && desk.failure().contains("next2.jpg"))
+        << desk.failure().toStdString();
+}
+
+TEST_F(ExerciseChrome, WithoutTheFilesOfItsRestingPicturesItComesUpAndEndsOnTheFirstMove) {
+    QFile::remove(desk.root() + "/D/button");
+    open();
+    EXPECT_EQ(desk.failure(), "");
+    EXPECT_EQ(pictureOf("picNext"), "next1.jpg");
+    support::hover(*screen);
+    EXPECT_TRUE(desk.failure().contains("'53'") && desk.failure().contains("exits1.jpg"))
         << desk.failure().toStdString();
 }
 
