@@ -144,16 +144,10 @@ void CourseTable::buildRows() {
     for (QWidget* hidden :
          {static_cast<QWidget*>(&wait), static_cast<QWidget*>(&bar), static_cast<QWidget*>(&show)})
         hidden->hide();
-    const QCursor hand = [this] {
-        QWidget probe;
-        setHandCursor(probe, handCursor);
-        return probe.cursor();
-    }();
+    setHandCursor(lblRecordNo_(0), handCursor);
     for (const auto* column : {&lblRecordNo_, &lblTitle_, &lblLesson_, &lblDate_})
         for (Label* label : *column)
-            label->setCursor(hand);
-    for (Label* topic : lblTopic_)
-        topic->setCursor(hand);
+            label->setCursor(lblRecordNo_(0).cursor());
 }
 
 /// Tab goes along the header, then down the units and the steps.
@@ -169,13 +163,22 @@ void CourseTable::orderTabs() {
 }
 
 void CourseTable::firstTick() {
+    if (!timerGo_->enabled())
+        return;
     core::Session& s = session();
     formDb_ = core::openCourse(context());
     stepRs_ = formDb_.openRecordset(QStringLiteral("Select * From tablework order by recordno"));
     stepRs_.moveLast();
     topicRs_ = formDb_.openRecordset(QStringLiteral("Select * From topic order by topicno"));
-    for (int i = 0; !topicRs_.eof(); ++i, topicRs_.moveNext())
-        lblTopic_(i).setCaption(topicRs_.text(QStringLiteral("Title")));
+    for (int i = 0; !topicRs_.eof(); ++i, topicRs_.moveNext()) {
+        Label& topic = lblTopic_(i);
+        topic.setCaption(topicRs_.text(QStringLiteral("Title")));
+        topic.setCursor(lblRecordNo_(0).cursor());
+    }
+    // Tab passes by the places that no unit has taken.
+    for (Label* topic : lblTopic_)
+        if (topic->caption().isEmpty())
+            topic->setFocusPolicy(Qt::NoFocus);
     const platform::Hourglass hourglass;
     s.scoreDb = core::openScores(context());
     s.scoreRs =

@@ -29,6 +29,16 @@ TEST_F(CourseTableList, TheUnitsStandInTheOrderOfTheirNumbers) {
     EXPECT_EQ(label("lblTopic", 23).caption(), "");
 }
 
+TEST_F(CourseTableList, TabPassesByThePlacesThatNoUnitHasTaken) {
+    addUnit(1, 1, 1);
+    openTable();
+    EXPECT_EQ(label("lblTopic", 2).focusPolicy(), Qt::TabFocus);
+    EXPECT_EQ(label("lblTopic", 3).focusPolicy(), Qt::NoFocus);
+    label("lblTopic", 2).setFocus();
+    QTest::keyClick(&label("lblTopic", 2), Qt::Key_Tab);
+    EXPECT_EQ(support::focusName(table), "lblTitle(0)");
+}
+
 TEST_F(CourseTableList, AnInstallOfMoreThan24UnitsEndsTheRun) {
     for (int i = 4; i <= 25; ++i)
         desk.exec(support::courseStore, "insert into topic values(" + std::to_string(i) + ",'t')");
@@ -124,6 +134,7 @@ TEST_F(CourseTableList, TheRowsAndTheUnitsCarryTheHandOfTheCourse) {
         EXPECT_EQ(label(column, 0).cursor().shape(), Qt::BitmapCursor) << column;
         EXPECT_EQ(label(column, 0).cursor().hotSpot(), hotSpot) << column;
     }
+    EXPECT_NE(label("lblTopic", 3).cursor().shape(), Qt::BitmapCursor) << "no unit stands there";
     EXPECT_EQ(QApplication::overrideCursor(), nullptr) << "the hourglass is gone after loading";
 }
 
@@ -133,6 +144,14 @@ TEST_F(CourseTableList, TheScoreStoreIsOpenOnlyWhileItIsRead) {
     openTable();
     EXPECT_FALSE(session.scoreDb.isOpen());
     EXPECT_FALSE(session.scoreRs.isOpen());
+}
+
+TEST_F(CourseTableList, ATickOfTheDisabledTimerDoesNothing) {
+    addUnit(1, 1, 1);
+    openTable();
+    label("lblTopic", 0).setCaption("kept");
+    support::find<platform::Timer>(table, "TimerGo").onTick();
+    EXPECT_EQ(label("lblTopic", 0).caption(), "kept");
 }
 
 TEST_F(CourseTableList, WithoutAScoreStoreTheRunEnds) {
