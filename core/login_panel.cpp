@@ -13,6 +13,7 @@ constexpr int barFrames = 11;
 }  // namespace
 
 LoginPanel::LoginPanel(Context& context) : Screen(context, QStringLiteral("frmLogIn2"), panelSize) {
+    setAccessibleName(QStringLiteral("Please wait"));
     picWait_ =
         &addPictureButton(QStringLiteral("picWait"), QRect(0, 0, 420, 160), QStringLiteral("Please wait"));
     picBar_ =
@@ -39,6 +40,8 @@ LoginPanel::LoginPanel(Context& context) : Screen(context, QStringLiteral("frmLo
 }
 
 void LoginPanel::timer2Tick() {
+    if (!timer2_->enabled())
+        return;
     ++frameCount_;
     if (frameCount_ != startTicks)
         return;
@@ -49,6 +52,8 @@ void LoginPanel::timer2Tick() {
 }
 
 void LoginPanel::timer1Tick() {
+    if (!timer1_->enabled())
+        return;
     ++frameCount_;
     if (frameCount_ < barFrames) {
         loadPicture(*picBar_, QStringLiteral("button\\bar%1.jpg").arg(frameCount_));

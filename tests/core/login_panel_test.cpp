@@ -60,8 +60,9 @@ TEST_F(LoginPanelTest, ASlowScreenDoesNotChangeTheSequence) {
 }
 
 TEST_F(LoginPanelTest, TheBarRunsThroughItsPicturesAndStartsAgain) {
-    timer("Timer2").setEnabled(false);
     tick("Timer2");
+    timer("Timer2").setEnabled(false);
+    timer("Timer1").setEnabled(true);
     QStringList shown;
     for (int i = 0; i < 12; ++i) {
         tick("Timer1");
@@ -69,6 +70,16 @@ TEST_F(LoginPanelTest, TheBarRunsThroughItsPicturesAndStartsAgain) {
     }
     EXPECT_EQ(shown, (QStringList{"bar2.jpg", "bar3.jpg", "bar4.jpg", "bar5.jpg", "bar6.jpg", "bar7.jpg",
                                   "bar8.jpg", "bar9.jpg", "bar10.jpg", "bar10.jpg", "bar2.jpg", "bar3.jpg"}));
+}
+
+TEST_F(LoginPanelTest, ATickOfADisabledTimerDoesNothing) {
+    tick("Timer1");
+    EXPECT_EQ(bar(), "bar2.jpg") << "the first picture of the design";
+    timer("Timer2").setEnabled(false);
+    tick("Timer2");
+    tick("Timer2");
+    EXPECT_TRUE(navigator.asked.empty());
+    EXPECT_FALSE(timer("Timer1").enabled());
 }
 
 TEST_F(LoginPanelTest, ComesUpWithoutTheFilesOfItsPictures) {
@@ -88,5 +99,8 @@ TEST(StudyTime, CountsSecondsUnderItsTitle) {
     for (int i = 0; i < 3; ++i)
         timer.onTick();
     EXPECT_EQ(find<platform::Label>(&form, "lblTime").caption(), "3");
+    EXPECT_EQ(desk.session.elapsedSeconds, 3);
+    timer.setEnabled(false);
+    timer.onTick();
     EXPECT_EQ(desk.session.elapsedSeconds, 3);
 }
