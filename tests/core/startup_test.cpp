@@ -178,6 +178,10 @@ TEST_F(StartUpTest, TheVersionTableEndsWithOneRowOfTheProgramWhateverItHeld) {
     start();
     EXPECT_EQ(desk.rows(version, "select program,pVersion from pversion order by program"),
               (QStringList{"Other|3", "Tovalin1|1"}));
+    desk.exec(version, "insert into pversion(program,pVersion) values('Tovalin1',5),('Tovalin1',6)");
+    start();
+    EXPECT_EQ(desk.rows(version, "select program,pVersion from pversion order by program"),
+              (QStringList{"Other|3", "Tovalin1|1"}));
 }
 
 TEST_F(StartUpTest, AStoreThatCannotBeOpenedEndsTheRunThere) {

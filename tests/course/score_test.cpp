@@ -1,11 +1,10 @@
 #include "course/score.h"
 
 #include "platform/error.h"
-#include "tests/support/desk.h"
-
-#include <gtest/gtest.h>
+#include "tests/support/store.h"
 
 using support::Desk;
+using support::faultOf;
 using support::scoreStore;
 
 namespace {
@@ -93,6 +92,51 @@ INSTANTIATE_TEST_SUITE_P(
                     NewRowCase{"FinalHasNoWordColumns", 4, 0, "Final", "|||80.0|"},
                     NewRowCase{"UnknownSlotWithoutWords", 7, 0, "Quiz", "N/A|N/A|N/A|80.0|"}),
     [](const auto& row) { return row.param.name; });
+
+struct UpdateCase {
+    const char* name;
+    int slot;
+    const char* expected;
+};
+
+class ScoreRowUpdate : public testing::TestWithParam<UpdateCase> {};
+
+TEST_P(ScoreRowUpdate, TouchesTheColumnsOfItsSlotAlone) {
+    Desk desk;
+    takeStep(desk, 30, 22);
+    desk.exec(scoreStore,
+              "insert into score(recordno,studentno,program,s1,s2,s3,s4,s5) "
+              "values(30,'1001','Tovalin1','0','60','50',40,'')");
+    save(desk, GetParam().slot, 80);
+    EXPECT_EQ(results(desk, 30), GetParam().expected);
+}
+
+INSTANTIATE_TEST_SUITE_P(Slots, ScoreRowUpdate,
+                         testing::Values(UpdateCase{"Spelling", 1, "100|60|50|40.0|"},
+                                         UpdateCase{"Matching", 2, "0|80|65|40.0|"},
+                                         UpdateCase{"WordQuizLandsInTheThirdColumn", 3, "0|60|70|40.0|"},
+                                         UpdateCase{"MainExercise", 4, "0|60|50|80.0|"},
+                                         UpdateCase{"SetDrill", 5, "0|60|50|40.0|80"},
+                                         UpdateCase{"WholeStep", 0, "0|60|50|100.0|"},
+                                         UpdateCase{"UnknownSlotChangesNothing", 7, "0|60|50|40.0|"}),
+                         [](const auto& row) { return row.param.name; });
+
+TEST(SaveScore, ASumOfWordScoresBeyondSixteenBitsIsAnOverflow) {
+    Desk desk;
+    takeStep(desk, 30, 22);
+    desk.exec(scoreStore,
+              "insert into score(recordno,studentno,program,s2,s3) "
+              "values(30,'1001','Tovalin1','0','32767')");
+    EXPECT_EQ(faultOf([&] { save(desk, 2, 1); }), 6);
+}
+
+TEST(SaveScore, ALearnerWithoutANameHasAnEmptyNameInTheRow) {
+    Desk desk;
+    desk.session.userName = QString();
+    takeStep(desk, 9, 0);
+    save(desk, 4, 80);
+    EXPECT_EQ(desk.row(scoreStore, "select studentname from score"), "");
+}
 
 TEST(SaveScore, ANewRowCarriesKeyTitlesAndReservedColumns) {
     Desk desk;
