@@ -8,6 +8,8 @@
 #include "tools/offscreen.h"
 #include "tools/play_command.h"
 
+#include <QTemporaryDir>
+
 #include <array>
 #include <cstdio>
 #include <memory>
@@ -48,7 +50,8 @@ int showUsage(std::FILE* stream, int status) {
 std::unique_ptr<QCoreApplication> makeApplication(const Subcommand& command, int& argc, char** argv) {
     if (!command.draws)
         return std::make_unique<QCoreApplication>(argc, argv);
-    tools::useOffscreenDesktop();
+    static const QTemporaryDir folder;  // lasts as long as the desktop
+    tools::useOffscreenDesktop(folder.path());
     return std::make_unique<platform::Application>(argc, argv);
 }
 

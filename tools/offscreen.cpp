@@ -2,7 +2,6 @@
 
 #include <QByteArray>
 #include <QFile>
-#include <QTemporaryDir>
 
 #include <cstdio>
 
@@ -19,20 +18,21 @@ void dropDesktopChatter(QtMsgType type, const QMessageLogContext&, const QString
 
 }  // namespace
 
-void useOffscreenDesktop() {
-    // The folder must last as long as the program.
-    static const QTemporaryDir folder;
-    const QString screen = folder.filePath(QStringLiteral("screen.json"));
-    QFile file(screen);
+void useOffscreenDesktop(const QString& folder, QSize screen) {
+    const QString settings = folder + QStringLiteral("/screen.json");
+    QFile file(settings);
     if (file.open(QIODevice::WriteOnly))
-        file.write(
-            R"({"synchronousWindowSystemEvents": true, "windowFrameMargins": false, "screens": [{"name": "tool",
-                      "x": 0, "y": 0, "width": 1280, "height": 1024, "logicalDpi": 96, "logicalBaseDpi": 96, "dpr": 1}]})");
+        file.write(QStringLiteral(R"({"synchronousWindowSystemEvents": true, "windowFrameMargins": false,
+            "screens": [{"name": "memory", "x": 0, "y": 0, "width": %1, "height": %2, "logicalDpi": 96,
+                         "logicalBaseDpi": 96, "dpr": 1}]})")
+                       .arg(screen.width())
+                       .arg(screen.height())
+                       .toUtf8());
     file.close();
     if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM"))
-        qputenv("QT_QPA_PLATFORM", "offscreen:configfile=" + screen.toUtf8());
+        qputenv("QT_QPA_PLATFORM", "offscreen:configfile=" + settings.toUtf8());
     qputenv("SDL_AUDIODRIVER", "dummy");
-    qputenv("XDG_RUNTIME_DIR", folder.path().toUtf8());
+    qputenv("XDG_RUNTIME_DIR", folder.toUtf8());
     qInstallMessageHandler(dropDesktopChatter);
 }
 

@@ -4,36 +4,17 @@
 #include "platform/application.h"
 #include "platform/look.h"
 #include "tools/install.h"
+#include "tools/offscreen.h"
 #include "tools/tour_guide.h"
 #include "tools/video_maker.h"
 #include "tools/video_texts.h"
 
 #include <QCommandLineParser>
-#include <QFile>
 #include <QTemporaryDir>
 
 #include <cstdio>
 
 namespace {
-
-/// A screen that every form fits on, where there is no real one.
-void useOffscreenDesktop(const QString& folder) {
-    const QString screen = folder + QStringLiteral("/screen.json");
-    QFile file(screen);
-    if (file.open(QIODevice::WriteOnly))
-        file.write(
-            R"({"synchronousWindowSystemEvents": true, "windowFrameMargins": false, "screens": [{"name": "tour",
-                      "x": 0, "y": 0, "width": 1280, "height": 800, "logicalDpi": 96, "logicalBaseDpi": 96, "dpr": 1}]})");
-    qputenv("QT_QPA_PLATFORM", "offscreen:configfile=" + screen.toUtf8());
-    qputenv("SDL_AUDIODRIVER", "dummy");
-}
-
-/// The offscreen desktop tells of things it cannot do that nobody here asked for.
-void dropDesktopChatter(QtMsgType type, const QMessageLogContext&, const QString& text) {
-    if (type == QtFatalMsg || type == QtCriticalMsg ||
-        !text.startsWith(QStringLiteral("This plugin does not support")))
-        std::fprintf(stderr, "%s\n", qPrintable(text));
-}
 
 /// The tour plays the first video alone, so only that one is made.
 void makeFirstVideo(const tools::InstallPlan& plan) {
@@ -63,9 +44,7 @@ int main(int argc, char** argv) {
     qputenv("XDG_CONFIG_HOME", home.filePath(QStringLiteral("config")).toUtf8());
     qputenv("MENDORI_ROOT", home.filePath(QStringLiteral("install")).toUtf8());
     if (qEnvironmentVariableIsEmpty("DISPLAY") && qEnvironmentVariableIsEmpty("WAYLAND_DISPLAY"))
-        useOffscreenDesktop(home.path());
-    qputenv("XDG_RUNTIME_DIR", home.path().toUtf8());
-    qInstallMessageHandler(dropDesktopChatter);
+        tools::useOffscreenDesktop(home.path(), QSize(1280, 800));
     platform::Application application(argc, argv);
     application.onFailure = [](const std::exception& failure) {
         std::fprintf(stderr, "%s\n", qPrintable(platform::failureText(failure)));

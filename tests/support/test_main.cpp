@@ -3,8 +3,8 @@
 #include "platform/application.h"
 #include "platform/look.h"
 #include "tests/support/ended_run.h"
+#include "tools/offscreen.h"
 
-#include <QFile>
 #include <QFileInfo>
 #include <QStorageInfo>
 #include <QTemporaryDir>
@@ -30,19 +30,9 @@ void keepTemporaryFilesInMemory() {
 int main(int argc, char** argv) {
     keepTemporaryFilesInMemory();
     QTemporaryDir home;
-    const QString screen = home.filePath(QStringLiteral("screen.json"));
-    QFile file(screen);
-    if (file.open(QIODevice::WriteOnly))
-        file.write(
-            R"({"synchronousWindowSystemEvents": true, "windowFrameMargins": false, "screens": [{"name": "test",
-                      "x": 0, "y": 0, "width": 1280, "height": 1024, "logicalDpi": 96, "logicalBaseDpi": 96, "dpr": 1}]})");
-    file.close();
-    if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM"))
-        qputenv("QT_QPA_PLATFORM", "offscreen:configfile=" + screen.toUtf8());
+    tools::useOffscreenDesktop(home.path());
     qputenv("XDG_CONFIG_HOME", home.filePath(QStringLiteral("config")).toUtf8());
     qputenv("XDG_DATA_HOME", home.filePath(QStringLiteral("data")).toUtf8());
-    qputenv("XDG_RUNTIME_DIR", home.path().toUtf8());
-    qputenv("SDL_AUDIODRIVER", "dummy");
     qunsetenv("MENDORI_ROOT");
 
     ::testing::InitGoogleTest(&argc, argv);
