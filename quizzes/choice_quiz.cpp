@@ -1,22 +1,28 @@
 #include "quizzes/choice_quiz.h"
 
+#include <utility>
+
 namespace quizzes {
 
 ChoiceQuiz::ChoiceQuiz(core::Context& context, const QuizEntry& entry) : QuestionQuiz(context, entry) {
-    for (std::size_t i = 0; i < choices().size(); ++i) {
-        Label& choice = *choices()[i];
-        choice.onClick = [this, i] { chosen(i); };
-        if (entry.choicesLightUp)
-            choice.onMouseMove = [this, &choice] {
-                if (spendHover())
-                    choice.setForeColor(platform::colour::red);
-            };
-    }
+    for (std::size_t i = 0; i < choices().size(); ++i)
+        choices()[i]->onClick = [this, i] { chosen(i); };
+    if (entry.choicesLightUp)
+        lightUpChoices();
 }
 
-void ChoiceQuiz::restoreHover() {
+void ChoiceQuiz::lightUpChoices() {
     for (Label* choice : choices())
-        choice->setForeColor(platform::colour::black);
+        choice->onMouseMove = [this, choice] {
+            if (hoverOpen())
+                choice->setForeColor(platform::colour::red);
+        };
+    // The choices leave the hover state as it is, so they turn black at every move over the form.
+    onMouseMove = [this, crossed = std::move(onMouseMove)] {
+        crossed();
+        for (Label* choice : choices())
+            choice->setForeColor(platform::colour::black);
+    };
 }
 
 void ChoiceQuiz::chosen(std::size_t index) {

@@ -12,9 +12,9 @@ class ChoiceQuiz final : public QuestionQuiz {
 
    protected:
     void showQuestion(bool) override { fillAllShown(); }
-    void restoreHover() override;
 
    private:
+    void lightUpChoices();
     void chosen(std::size_t index);
 };
 

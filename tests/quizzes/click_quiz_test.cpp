@@ -120,7 +120,7 @@ TEST(FourChoices, TheMessageOfAWrongChoiceNamesTheFirstAnswerAlone) {
     EXPECT_EQ(desk.column("correct"), QStringList{"NO"});
 }
 
-TEST(FourChoices, OneChoiceLightsUpAtATimeUntilTheMouseHasCrossedTheForm) {
+TEST(FourChoices, AChoiceUnderTheMouseTurnsRedAndAllTurnBlackOverTheForm) {
     QuizDesk desk;
     desk.layStep(2, {fourWay("go")});
     core::Screen* screen = desk.run("frmQuiz8");
@@ -129,12 +129,26 @@ TEST(FourChoices, OneChoiceLightsUpAtATimeUntilTheMouseHasCrossedTheForm) {
     support::hover(part(screen, "lblWord2(0)"));
     support::hover(part(screen, "lblWord2(1)"));
     EXPECT_EQ(colour("lblWord2(0)"), platform::colour::red);
-    EXPECT_EQ(colour("lblWord2(1)"), platform::colour::black);
+    EXPECT_EQ(colour("lblWord2(1)"), platform::colour::red);
     support::hover(*screen);
     EXPECT_EQ(colour("lblWord2(0)"), platform::colour::black);
-    support::hover(part(screen, "lblWord2(1)"));
-    EXPECT_EQ(colour("lblWord2(1)"), platform::colour::red);
+    EXPECT_EQ(colour("lblWord2(1)"), platform::colour::black);
     EXPECT_TRUE(desk.sound.names().isEmpty());
+}
+
+TEST(FourChoices, WhileAButtonIsLitNoChoiceTurnsRed) {
+    QuizDesk desk;
+    desk.layStep(2, {fourWay("go")});
+    core::Screen* screen = desk.run("frmQuiz8");
+    support::hover(*screen);
+    support::hover(part(screen, "lblWord2(0)"));
+    support::hover(part(screen, "picNext"));
+    EXPECT_EQ(desk.sound.names(), QStringList{"touchit.wav"}) << "a choice does not spend the hover state";
+    support::hover(part(screen, "lblWord2(1)"));
+    EXPECT_EQ(label(screen, "lblWord2(1)").foreColor(), platform::colour::black);
+    support::hover(*screen);
+    support::hover(part(screen, "lblWord2(1)"));
+    EXPECT_EQ(label(screen, "lblWord2(1)").foreColor(), platform::colour::red);
 }
 
 TEST(TwoPicks, AnIncompletePickIsRefusedWithoutASound) {
