@@ -105,7 +105,7 @@ void VideoMenu::play(const QString& file) {
 }
 
 void VideoMenu::topicHovered(int index) {
-    if (!spendHover())
+    if (!hoverOpen())
         return;
     for (Label* topic : lblTopic_)
         topic->setForeColor(platform::colour::black);

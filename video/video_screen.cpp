@@ -39,25 +39,18 @@ Label& VideoScreen::addBookTitle(const QRect& place, TextRole role) {
     return addLabel(QStringLiteral("lblBookTitle"), place, role, QStringLiteral("Video Grammar Lesson"));
 }
 
-bool VideoScreen::spendHover() {
-    if (hoverArmed_ != 1)
-        return false;
-    hoverLit_ = 1;
-    hoverArmed_ = 2;
-    return true;
-}
-
 void VideoScreen::showPicture(const HoverButton& hover, int state) {
     loadPicture(*hover.button, QStringLiteral("button\\%1%2.jpg").arg(hover.picture).arg(state));
 }
 
 void VideoScreen::buttonHovered(const HoverButton& hover) {
-    if (hoverArmed_ != 1)
+    if (!hoverOpen())
         return;
     // Exit buttons light up before they sound, unlike all others.
     showPicture(hover, 2);
     core::PlaySound(context(), QStringLiteral("touchit.wav"), core::Effect);
-    spendHover();
+    hoverLit_ = 1;
+    hoverArmed_ = 2;
 }
 
 void VideoScreen::formHovered() {

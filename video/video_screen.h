@@ -31,8 +31,8 @@ class VideoScreen : public core::Screen {
     /// `lblBookTitle`, the same on both screens.
     Label& addBookTitle(const QRect& place, platform::TextRole role);
 
-    /// True when something under the mouse may light up, and then spends it.
-    bool spendHover();
+    /// Whether something under the mouse may light up. A title that does leaves the state as it is.
+    bool hoverOpen() const { return hoverArmed_ == 1; }
 
    private:
     struct HoverButton {

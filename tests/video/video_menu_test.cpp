@@ -106,17 +106,26 @@ TEST_F(VideoMenu, AnEntryCanBePressedByKeyboard) {
     EXPECT_EQ(topic(1).accessibleName(), QStringLiteral("관사"));
 }
 
-TEST_F(VideoMenu, TheTitleUnderTheMouseTurnsRedOnceTheFormWasCrossed) {
+TEST_F(VideoMenu, TheTitleUnderTheMouseAloneIsRedAndTheFormLeavesItSo) {
     hover(topic(0));
-    EXPECT_EQ(topic(0).foreColor(), platform::colour::red);
-    hover(topic(1));
-    EXPECT_EQ(topic(1).foreColor(), platform::colour::black);
-    hover(*menu);
     EXPECT_EQ(topic(0).foreColor(), platform::colour::red);
     hover(topic(1));
     EXPECT_EQ(topic(0).foreColor(), platform::colour::black);
     EXPECT_EQ(topic(1).foreColor(), platform::colour::red);
+    hover(*menu);
+    EXPECT_EQ(topic(1).foreColor(), platform::colour::red);
     EXPECT_TRUE(desk.sound.played.empty());
+}
+
+TEST_F(VideoMenu, WhileTheExitButtonIsLitNoTitleTurnsRed) {
+    hover(topic(0));
+    hover(find(menu, QStringLiteral("picExit")));
+    EXPECT_EQ(desk.sound.played.size(), 1U) << "a title does not spend the hover state";
+    hover(topic(1));
+    EXPECT_EQ(topic(1).foreColor(), platform::colour::black);
+    hover(*menu);
+    hover(topic(1));
+    EXPECT_EQ(topic(1).foreColor(), platform::colour::red);
 }
 
 TEST_F(VideoMenu, TheExitButtonLightsUpOnceAndRestsWhenTheFormIsCrossed) {
