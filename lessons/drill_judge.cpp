@@ -14,7 +14,7 @@ QString typedWord(const QString& boxText) {
 }
 
 QString rightRowCriterion(const Drill& drill, int box, const QString& word) {
-    const QString wordTerm = QStringLiteral("word='") + word + u'\'';
+    QString wordTerm = QStringLiteral("word='") + word + u'\'';
     if (box >= drill.wordAloneFromBox)
         return wordTerm;
     const QString boxTerm = QStringLiteral("orderno=") + QString::number(box + 1);
