@@ -28,6 +28,8 @@ class CourseTable final : public core::Screen {
     void buildTopics();
     void buildRows();
     void orderTabs();
+    /// Shows a button at rest (1) or lit (2).
+    void showButton(int index, int state);
     void firstTick();
     void showTopicTitle();
     void ListTopicRows();
