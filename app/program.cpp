@@ -2,6 +2,7 @@
 
 #include "app/screens.h"
 #include "core/startup.h"
+#include "core/turn.h"
 
 namespace app {
 
@@ -21,7 +22,8 @@ Program::Program()
 }
 
 bool Program::start() {
-    return core::StartUp(context_, frame_);
+    return core::awaitTurn(turn_, drives_.resolve(context_.applicationFolder)) &&
+           core::StartUp(context_, frame_);
 }
 
 }  // namespace app

@@ -2,6 +2,7 @@
 
 #include "app/screen_loop.h"
 #include "core/context.h"
+#include "platform/file_lock.h"
 #include "platform/form.h"
 
 namespace app {
@@ -11,7 +12,8 @@ class Program {
    public:
     Program();
 
-    /// Starts up; false when nobody is logged in and the program must end. Throws where a store cannot be
+    /// Waits for its turn where another program works on the same stores, and starts up. False when nobody
+    /// is logged in, or would rather not wait, and the program must end. Throws where a store cannot be
     /// opened.
     bool start();
 
@@ -21,6 +23,7 @@ class Program {
     const platform::Drives& drives() const { return drives_; }
 
    private:
+    platform::FileLock turn_;
     core::Session session_;
     platform::UserSettings settings_;
     platform::Drives drives_;

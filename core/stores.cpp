@@ -37,7 +37,9 @@ Database openTestWords(const Context& context) {
 }
 
 Database openScores(const Context& context) {
-    return openStore(context, scorePath(context.session));
+    Database scores = openStore(context, scorePath(context.session));
+    scores.flushFully();
+    return scores;
 }
 
 QString learnerCriterion(const Session& session) {

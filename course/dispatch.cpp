@@ -51,6 +51,8 @@ void finishVideoStep(const core::Context& context) {
         return;
     }
     session.scoreDb = core::openScores(context);
+    // As in every save, nobody else may add the row between the look and the writing.
+    platform::Batch saving(session.scoreDb);
     platform::Recordset& row = session.scoreRs;
     row = session.scoreDb.openRecordset(QStringLiteral("Select * from score where ") +
                                         core::learnerStepCriterion(session));
@@ -64,6 +66,7 @@ void finishVideoStep(const core::Context& context) {
     }
     row.set(QStringLiteral("s4"), 100);
     row.update();
+    saving.commit();
     row.close();
     session.scoreDb.close();
     context.navigator.open(QStringLiteral("frmTable"));

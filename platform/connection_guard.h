@@ -7,11 +7,11 @@
 namespace platform {
 
 template <typename Work>
-auto Connection::guarded(Work work) -> decltype(work()) {
+auto Connection::guarded(Work work, const QString& table) -> decltype(work()) {
     try {
         return work();
     } catch (const SQLite::Exception& failure) {
-        translate(failure);
+        translate(failure, table);
     }
 }
 

@@ -39,11 +39,26 @@ StoreFormat storeFormat(const QString& file) {
     return StoreFormat::Unknown;
 }
 
-Database Database::open(const QString& file, const QString& shownName) {
+namespace {
+
+/// There is nothing under the name that could be read.
+[[noreturn]] void throwMissing(const QString& file, const QString& shownName) {
+    const QFileInfo found(file);
+    if (found.isDir())
+        throw RuntimeError(Fault::DatabaseNotFound,
+                           QStringLiteral("'%1' is a folder and no store (%2).").arg(shownName, file));
+    QFile opened(file);
+    if (found.exists() && !opened.open(QIODevice::ReadOnly))
+        throw RuntimeError(
+            Fault::DatabaseFailure,
+            QStringLiteral("'%1' cannot be opened: %2 (%3).").arg(shownName, opened.errorString(), file));
+    throw RuntimeError(Fault::DatabaseNotFound,
+                       QStringLiteral("Could not find file '%1' (%2).").arg(shownName, file));
+}
+
+void requireStore(const QString& file, const QString& shownName) {
     switch (storeFormat(file)) {
-        case StoreFormat::Missing:
-            throw RuntimeError(Fault::DatabaseNotFound,
-                               QStringLiteral("Could not find file '%1' (%2).").arg(shownName, file));
+        case StoreFormat::Missing: throwMissing(file, shownName);
         case StoreFormat::AccessFile:
             throw RuntimeError(Fault::UnrecognizedFormat,
                                QStringLiteral("'%1' is a genuine Access file. Bring it along with \"course "
@@ -55,15 +70,26 @@ Database Database::open(const QString& file, const QString& shownName) {
                 QStringLiteral("'%1' is damaged: it is no store of this program.").arg(shownName));
         case StoreFormat::Store: break;
     }
+}
+
+}  // namespace
+
+Database Database::open(const QString& file, const QString& shownName) {
     Database database;
     const QString key = QFileInfo(file).canonicalFilePath();
-    auto& slot = openConnections()[key];
-    database.connection_ = slot.lock();
-    if (!database.connection_) {
-        database.connection_ = std::make_shared<Connection>(file, shownName);
-        slot = database.connection_;
-    }
+    // A store that is open is not looked into again: closing another handle on its file would take back
+    // every lock that this process holds on it.
+    database.connection_ = openConnections().value(key).lock();
+    if (database.connection_)
+        return database;
+    requireStore(file, shownName);
+    database.connection_ = std::make_shared<Connection>(file, shownName);
+    openConnections().insert(key, database.connection_);
     return database;
+}
+
+void Database::flushFully() const {
+    connection_->flushFully();
 }
 
 Recordset Database::openRecordset(const QString& sql) const {
@@ -108,7 +134,7 @@ std::shared_ptr<const TableShape> Connection::shape(const QString& table) {
     auto shape = std::make_shared<TableShape>();
     shape->name = table;
     // The statement is the one that the rows will be read with, so that it is made ready only once.
-    const auto row = prepare(rowQuery(table));
+    const auto row = guarded([&] { return prepare(rowQuery(table)); });
     for (int i = 0; i < row->getColumnCount(); ++i) {
         const QString column = QString::fromUtf8(row->getColumnName(i));
         shape->indexByLowerName.insert(column.toLower(), i);
@@ -119,19 +145,24 @@ std::shared_ptr<const TableShape> Connection::shape(const QString& table) {
 }
 
 std::shared_ptr<SQLite::Statement> Connection::prepare(const QString& sql) {
-    return guarded([&] {
-        if (const auto known = statements_.constFind(sql); known != statements_.constEnd()) {
-            (*known)->reset();
-            return *known;
-        }
-        auto statement = std::make_shared<SQLite::Statement>(*sqlite_, sql.toStdString());
-        statements_.insert(sql, statement);
-        return statement;
-    });
+    if (const auto known = statements_.constFind(sql); known != statements_.constEnd()) {
+        (*known)->reset();
+        return *known;
+    }
+    auto statement = std::make_shared<SQLite::Statement>(*sqlite_, sql.toStdString());
+    statements_.insert(sql, statement);
+    return statement;
 }
 
 int Connection::totalChanges() const {
     return sqlite3_total_changes(sqlite_->getHandle()) + rollbacks_;
+}
+
+void Connection::flushFully() {
+    if (flushesFully_)
+        return;
+    guarded([&] { sqlite_->exec("PRAGMA synchronous=EXTRA"); });
+    flushesFully_ = true;
 }
 
 void Connection::beginBatch() {
@@ -168,8 +199,9 @@ void Connection::rollBack() {
     ++rollbacks_;
 }
 
-void Connection::translate(const SQLite::Exception& failure) const {
+void Connection::translate(const SQLite::Exception& failure, const QString& table) const {
     static const QString noSuchTable = QStringLiteral("no such table: ");
+    static const QString noSuchColumn = QStringLiteral("no such column: ");
     const QString reason = QString::fromUtf8(failure.what());
     switch (failure.getErrorCode()) {
         case SQLITE_CORRUPT:
@@ -177,8 +209,10 @@ void Connection::translate(const SQLite::Exception& failure) const {
             throw RuntimeError(Fault::UnrecognizedFormat,
                                QStringLiteral("'%1' is damaged (%2).").arg(shownName_, reason));
         case SQLITE_ERROR:
-            if (reason.startsWith(QStringLiteral("no such column")))
-                throw RuntimeError(Fault::ItemNotFound, QStringLiteral("'%1': %2.").arg(shownName_, reason));
+            if (reason.startsWith(noSuchColumn))
+                throw RuntimeError(Fault::ItemNotFound,
+                                   QStringLiteral("There is no field '%1' in table '%2' of '%3'.")
+                                       .arg(reason.mid(noSuchColumn.size()), table, shownName_));
             if (reason.startsWith(noSuchTable))
                 throw RuntimeError(Fault::TableNotFound,
                                    QStringLiteral("'%1' has no table '%2'.")
@@ -186,10 +220,14 @@ void Connection::translate(const SQLite::Exception& failure) const {
             throw RuntimeError(
                 Fault::SyntaxError,
                 QStringLiteral("Syntax error in expression on '%1': %2.").arg(shownName_, reason));
-        default:
-            throw RuntimeError(Fault::DatabaseFailure,
-                               QStringLiteral("'%1' cannot be used: %2.").arg(shownName_, reason));
+        default: break;
     }
+    if (failure.getExtendedErrorCode() == SQLITE_READONLY_DBMOVED)
+        throw RuntimeError(Fault::DatabaseFailure,
+                           QStringLiteral("'%1' was replaced while it was in use. Start the program again.")
+                               .arg(shownName_));
+    throw RuntimeError(Fault::DatabaseFailure,
+                       QStringLiteral("'%1' cannot be used: %2.").arg(shownName_, reason));
 }
 
 }  // namespace platform

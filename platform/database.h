@@ -36,6 +36,9 @@ class Database {
     /// Opens an updatable set of rows from `Select * from T [where C] [order by O]`, positioned at its first
     /// row. Throws SyntaxError, TableNotFound or ItemNotFound.
     Recordset openRecordset(const QString& sql) const;
+    /// From now on an edit is safe from a power cut when it returns: the removal of its journal is on the
+    /// disk too, without which the next opening would take the edit back. Costs one flush an edit.
+    void flushFully() const;
     /// Lets the handle go; an unopened one stays as it is.
     void close() { connection_.reset(); }
 
@@ -81,11 +84,14 @@ class Connection {
     SQLite::Database& sqlite() { return *sqlite_; }
     /// Throws TableNotFound.
     std::shared_ptr<const TableShape> shape(const QString& table);
-    /// A prepared statement, kept for the next use of the same text and reset. Throws as `translate` tells.
+    /// A prepared statement, kept for the next use of the same text and reset. Throws as the engine does, so
+    /// that it is called inside `guarded`.
     std::shared_ptr<SQLite::Statement> prepare(const QString& sql);
-    /// Runs `work` and turns what the engine throws into a RuntimeError that names the store.
+    /// Runs `work` and turns what the engine throws into a RuntimeError that names the store, and the table
+    /// where a field is missing.
     template <typename Work>
-    auto guarded(Work work) -> decltype(work());
+    auto guarded(Work work, const QString& table = {}) -> decltype(work());
+    void flushFully();
     /// A number that changes with everything that changes the store's rows.
     int totalChanges() const;
 
@@ -94,7 +100,7 @@ class Connection {
 
    private:
     void rollBack();
-    [[noreturn]] void translate(const SQLite::Exception& failure) const;
+    [[noreturn]] void translate(const SQLite::Exception& failure, const QString& table) const;
 
     QString shownName_;
     std::unique_ptr<SQLite::Database> sqlite_;
@@ -102,6 +108,7 @@ class Connection {
     QHash<QString, std::shared_ptr<const TableShape>> shapes_;
     int batchDepth_ = 0;
     bool batchFailed_ = false;
+    bool flushesFully_ = false;
     int rollbacks_ = 0;
 };
 

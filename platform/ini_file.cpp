@@ -1,5 +1,6 @@
 #include "platform/ini_file.h"
 
+#include <QByteArrayList>
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
@@ -11,19 +12,27 @@ namespace platform {
 
 namespace {
 
-const QString byteOrderMark{QChar(QChar::ByteOrderMark)};
+const QByteArray byteOrderMark = QByteArrayLiteral("\xEF\xBB\xBF");
 
-QStringList readLines(const QString& file) {
+/// The lines as they stand, so that what another program wrote in another encoding is kept byte by byte.
+QByteArrayList readBytes(const QString& file) {
     QFile opened(file);
     if (!opened.open(QIODevice::ReadOnly))
         return {};
-    QString text = QString::fromUtf8(opened.readAll());
+    QByteArray text = opened.readAll();
     if (text.startsWith(byteOrderMark))
-        text.remove(0, 1);
-    text.replace(QStringLiteral("\r\n"), QStringLiteral("\n"));
-    if (text.endsWith(u'\n'))
+        text.remove(0, byteOrderMark.size());
+    text.replace("\r\n", "\n");
+    if (text.endsWith('\n'))
         text.chop(1);
-    return text.isEmpty() ? QStringList() : text.split(u'\n');
+    return text.isEmpty() ? QByteArrayList() : text.split('\n');
+}
+
+QStringList decodedLines(const QByteArrayList& lines) {
+    QStringList texts;
+    for (const QByteArray& line : lines)
+        texts.append(QString::fromUtf8(line));
+    return texts;
 }
 
 bool sameName(const QString& written, const QString& wanted) {
@@ -94,7 +103,7 @@ QString encoded(const QString& value) {
 }  // namespace
 
 std::optional<QString> readIni(const QString& file, const QString& section, const QString& key) {
-    const QStringList lines = readLines(file);
+    const QStringList lines = decodedLines(readBytes(file));
     const KeyPlace place = findKey(lines, section, key);
     if (place.line < 0)
         return std::nullopt;
@@ -103,19 +112,18 @@ std::optional<QString> readIni(const QString& file, const QString& section, cons
 }
 
 bool writeIni(const QString& file, const QString& section, const QString& key, const QString& value) {
-    QStringList lines = readLines(file);
-    const KeyPlace place = findKey(lines, section, key);
-    const QString entry = key + u'=' + encoded(value);
+    QByteArrayList lines = readBytes(file);
+    const KeyPlace place = findKey(decodedLines(lines), section, key);
+    const QByteArray entry = (key + u'=' + encoded(value)).toUtf8();
     if (place.line >= 0)
         lines[place.line] = entry;
     else if (place.sectionEnd >= 0)
         lines.insert(place.sectionEnd, entry);
     else
-        lines += {u'[' + section + u']', entry};
+        lines += {(u'[' + section + u']').toUtf8(), entry};
     QDir().mkpath(QFileInfo(file).path());
     QSaveFile saved(file);
-    return saved.open(QIODevice::WriteOnly) && saved.write((lines.join(u'\n') + u'\n').toUtf8()) >= 0 &&
-           saved.commit();
+    return saved.open(QIODevice::WriteOnly) && saved.write(lines.join('\n') + '\n') >= 0 && saved.commit();
 }
 
 }  // namespace platform

@@ -56,22 +56,24 @@ MemberList::MemberList(std::shared_ptr<Connection> connection, Query query)
 }
 
 void MemberList::read(bool all) {
-    connection_->guarded([&] {
-        const auto statement = connection_->prepare(keyQuery(query_) + QStringLiteral(" LIMIT ?"));
-        statement->bind(1, all ? -1 : eagerMembers + 1);
-        // Rows may have come and gone since the first ones were read, so the known ones are told by their
-        // keys.
-        std::unordered_set<std::int64_t> known;
-        for (const Member& member : members_)
-            known.insert(member.key);
-        while (statement->executeStep())
-            if (const std::int64_t key = statement->getColumn(0).getInt64(); !known.contains(key)) {
-                members_.push_back({key, false});
-                ++liveCount_;
-            }
-        complete_ = all || members_.size() <= static_cast<std::size_t>(eagerMembers);
-        statement->reset();
-    });
+    connection_->guarded(
+        [&] {
+            const auto statement = connection_->prepare(keyQuery(query_) + QStringLiteral(" LIMIT ?"));
+            statement->bind(1, all ? -1 : eagerMembers + 1);
+            // Rows may have come and gone since the first ones were read, so the known ones are told by their
+            // keys.
+            std::unordered_set<std::int64_t> known;
+            for (const Member& member : members_)
+                known.insert(member.key);
+            while (statement->executeStep())
+                if (const std::int64_t key = statement->getColumn(0).getInt64(); !known.contains(key)) {
+                    members_.push_back({key, false});
+                    ++liveCount_;
+                }
+            complete_ = all || members_.size() <= static_cast<std::size_t>(eagerMembers);
+            statement->reset();
+        },
+        query_.table);
 }
 
 void MemberList::readAll() {
@@ -143,50 +145,55 @@ std::optional<std::int64_t> MemberList::find(const QString& criterion) const {
 }
 
 std::optional<std::int64_t> MemberList::probe(const QString& criterion) const {
-    return connection_->guarded([&]() -> std::optional<std::int64_t> {
-        // Not kept for reuse: criteria carry what a learner typed and are hardly ever asked twice.
-        SQLite::Statement statement(connection_->sqlite(),
-                                    QStringLiteral("SELECT 1 FROM \"%1\" WHERE _rowid_=?1 AND (%2)")
-                                        .arg(query_.table, criterion)
-                                        .toStdString());
-        for (const Member& member : members_) {
-            if (member.gone)
-                continue;
-            statement.bind(1, member.key);
-            const bool holds = statement.executeStep();
-            statement.reset();
-            if (holds)
-                return member.key;
-        }
-        return std::nullopt;
-    });
+    return connection_->guarded(
+        [&]() -> std::optional<std::int64_t> {
+            // Not kept for reuse: criteria carry what a learner typed and are hardly ever asked twice.
+            SQLite::Statement statement(connection_->sqlite(),
+                                        QStringLiteral("SELECT 1 FROM \"%1\" WHERE _rowid_=?1 AND (%2)")
+                                            .arg(query_.table, criterion)
+                                            .toStdString());
+            for (const Member& member : members_) {
+                if (member.gone)
+                    continue;
+                statement.bind(1, member.key);
+                const bool holds = statement.executeStep();
+                statement.reset();
+                if (holds)
+                    return member.key;
+            }
+            return std::nullopt;
+        },
+        query_.table);
 }
 
 std::optional<std::int64_t> MemberList::search(const QString& criterion) const {
-    return connection_->guarded([&]() -> std::optional<std::int64_t> {
-        Query narrowed = query_;
-        narrowed.where =
-            query_.where.isEmpty() ? criterion : QStringLiteral("(%1) AND (%2)").arg(query_.where, criterion);
-        SQLite::Statement statement(connection_->sqlite(), keyQuery(narrowed).toStdString());
-        std::optional<std::int64_t> first;
-        if (!complete_) {
-            if (statement.executeStep())
-                first = statement.getColumn(0).getInt64();
-            return first;
-        }
-        std::unordered_map<std::int64_t, std::size_t> places;
-        for (std::size_t i = 0; i < members_.size(); ++i)
-            if (!members_[i].gone)
-                places.emplace(members_[i].key, i);
-        std::size_t best = std::numeric_limits<std::size_t>::max();
-        while (statement.executeStep())
-            if (const auto place = places.find(statement.getColumn(0).getInt64());
-                place != places.end() && place->second < best) {
-                best = place->second;
-                first = place->first;
+    return connection_->guarded(
+        [&]() -> std::optional<std::int64_t> {
+            Query narrowed = query_;
+            narrowed.where = query_.where.isEmpty()
+                                 ? criterion
+                                 : QStringLiteral("(%1) AND (%2)").arg(query_.where, criterion);
+            SQLite::Statement statement(connection_->sqlite(), keyQuery(narrowed).toStdString());
+            std::optional<std::int64_t> first;
+            if (!complete_) {
+                if (statement.executeStep())
+                    first = statement.getColumn(0).getInt64();
+                return first;
             }
-        return first;
-    });
+            std::unordered_map<std::int64_t, std::size_t> places;
+            for (std::size_t i = 0; i < members_.size(); ++i)
+                if (!members_[i].gone)
+                    places.emplace(members_[i].key, i);
+            std::size_t best = std::numeric_limits<std::size_t>::max();
+            while (statement.executeStep())
+                if (const auto place = places.find(statement.getColumn(0).getInt64());
+                    place != places.end() && place->second < best) {
+                    best = place->second;
+                    first = place->first;
+                }
+            return first;
+        },
+        query_.table);
 }
 
 }  // namespace platform

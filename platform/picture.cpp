@@ -3,9 +3,12 @@
 #include "platform/error.h"
 
 #include <QDateTime>
+#include <QFile>
 #include <QFileInfo>
 #include <QHash>
 #include <QImageReader>
+
+#include <algorithm>
 
 namespace platform {
 
@@ -28,6 +31,21 @@ QString denseTwin(const QFileInfo& info) {
     return info.path() + u'/' + info.completeBaseName() + QStringLiteral("@2x.") + info.suffix();
 }
 
+/// Decoders show a JPEG file that was cut off as far as it goes; that its end mark is missing tells it.
+bool isCutOff(const QString& path) {
+    QFile file(path);
+    if (!file.open(QIODevice::ReadOnly) || file.read(2) != QByteArrayLiteral("\xFF\xD8"))
+        return false;
+    const QByteArray endMark = QByteArrayLiteral("\xFF\xD9");
+    constexpr qint64 tail = 4096;
+    file.seek(std::max<qint64>(0, file.size() - tail));
+    if (file.readAll().contains(endMark))
+        return false;
+    // Something long may follow the picture.
+    file.seek(0);
+    return !file.readAll().contains(endMark);
+}
+
 }  // namespace
 
 QPixmap loadPicture(const QString& file, const QString& shownName, double pixelRatio) {
@@ -48,6 +66,9 @@ QPixmap loadPicture(const QString& file, const QString& shownName, double pixelR
         throw RuntimeError(
             Fault::InvalidPicture,
             QStringLiteral("Invalid picture: '%1' (%2).").arg(shownName, reader.errorString()));
+    if (isCutOff(path))
+        throw RuntimeError(Fault::InvalidPicture,
+                           QStringLiteral("Invalid picture: '%1' (it was cut off).").arg(shownName));
     QPixmap picture = QPixmap::fromImage(image);
     if (dense)
         picture.setDevicePixelRatio(2.0);

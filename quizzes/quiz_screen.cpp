@@ -151,8 +151,9 @@ QString QuizScreen::required(const char* field) const {
 }
 
 void QuizScreen::failRows(platform::Fault fault, const QString& what) const {
-    throw platform::RuntimeError(
-        fault, QStringLiteral("Step %1 (%2): %3").arg(session().recordNo).arg(objectName(), what));
+    throw platform::RuntimeError(fault, QStringLiteral("Step %1 (%2): %3 (%4)")
+                                            .arg(session().recordNo)
+                                            .arg(objectName(), what, quizRs.description()));
 }
 
 void QuizScreen::showAnswerLine() {

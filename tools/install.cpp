@@ -1,5 +1,6 @@
 #include "tools/install.h"
 
+#include "core/turn.h"
 #include "platform/database.h"
 #include "tools/check.h"
 #include "tools/course_source.h"
@@ -22,6 +23,9 @@ namespace {
 
 // A file of this name in the root says that the install is ours, and which course its stores were built from.
 const QString markName = QStringLiteral(".mendori-install");
+const QString unfinished = QStringLiteral("unfinished");
+// The set-up that is at work in the root holds this file locked.
+const QString lockName = QStringLiteral(".mendori-setup.lock");
 // Counts up whenever the stores' layout changes, so that an older install is rebuilt.
 constexpr int layoutVersion = 1;
 
@@ -112,13 +116,25 @@ class Installer {
                                   "Choose an empty folder with --root.")
                        .arg(plan_.root));
         if (!QFile::exists(markFile()))
-            writeMark(QStringLiteral("unfinished"));
+            writeMark(unfinished);
         for (const char* folder : {"C/A_Mendori/Main", "C/Larkfield/Larkfield2013/Tovalin1", "D/button",
                                    "D/interface", "D/A_Mendori/ABCPicture", "D/A_Mendori/ABCSound",
                                    "D/A_Mendori/Mendori_Program/Tovalin1_Video", "E", "F", "G", "H"})
             if (!root_.mkpath(QLatin1String(folder)))
                 refuse(QStringLiteral("The folder %1 cannot be made.")
                            .arg(root_.filePath(QLatin1String(folder))));
+        if (!alone_.tryTake(root_.filePath(lockName)))
+            refuse(QStringLiteral("Another set-up is at work in %1. Run this again when it has ended.")
+                       .arg(plan_.root));
+    }
+
+    /// Until every store is made anew the install is of no course: a run that is cut short is made good by
+    /// the next, whichever course that one is of.
+    void beginRebuild(platform::FileLock& turn) const {
+        if (!turn.tryTake(root_.filePath(QStringLiteral("D/") + core::turnFileName)))
+            refuse(QStringLiteral("The course in %1 is open. Close the program and run this again.")
+                       .arg(plan_.root));
+        writeMark(unfinished);
     }
 
     void writeMark(const QString& stamp) const {
@@ -153,6 +169,9 @@ class Installer {
 
     void makeStores(const BuiltCourse& course) const {
         const bool current = isCurrent();
+        platform::FileLock turn;
+        if (!current)
+            beginRebuild(turn);
         int done = 0;
         for (const Place& place : contentStores) {
             tell(QStringLiteral("stores"), ++done, static_cast<int>(contentStores.size()));
@@ -221,6 +240,7 @@ class Installer {
 
     const InstallPlan& plan_;
     QDir root_;
+    platform::FileLock alone_;
 };
 
 }  // namespace

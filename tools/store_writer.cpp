@@ -2,11 +2,10 @@
 
 #include "core/schema.h"
 #include "platform/sql_value.h"
+#include "tools/replace_store.h"
 
 #include <SQLiteCpp/SQLiteCpp.h>
 #include <QFile>
-
-#include <cstdio>
 
 namespace tools {
 
@@ -64,10 +63,7 @@ void writeStore(const QString& file, const QString& schemaStore, const std::vect
                                      .arg(file, QString::fromUtf8(failure.what()))
                                      .toStdString());
     }
-    if (std::rename(half.toLocal8Bit().constData(), file.toLocal8Bit().constData()) != 0) {
-        QFile::remove(half);
-        throw std::runtime_error(QStringLiteral("%1 cannot be written.").arg(file).toStdString());
-    }
+    moveIntoPlace(half, file);
 }
 
 }  // namespace tools

@@ -39,7 +39,8 @@ StepVideo::StepVideo(core::Context& context)
 }
 
 void StepVideo::loadStep(StoryBox& story) {
-    const Tips tips = readTips(context(), QStringLiteral("recordno=%1").arg(session().recordNo));
+    const Tips tips =
+        readTips(context(), QStringLiteral("recordno=%1").arg(session().recordNo), VideoNumber::Needed);
     story.setText(tips.story);
     session().videoFile = stepVideoFile(session().videoRoot, tips.videoNumber.toInt16());
     timer1_->setEnabled(true);

@@ -11,7 +11,11 @@ struct Tips {
     platform::Value videoNumber{0};  // of the first row; 0 without rows
 };
 
+/// Whether a first row that tells no video number is as good as any.
+enum class VideoNumber { Optional, Needed };
+
 /// Reads the tip rows for which the criterion holds ("topicno=3"), in their order.
-Tips readTips(const core::Context& context, const QString& criterion);
+Tips readTips(const core::Context& context, const QString& criterion,
+              VideoNumber number = VideoNumber::Optional);
 
 }  // namespace video

@@ -255,3 +255,10 @@ TEST_F(CourseTableHover, ComesUpWithoutTheFilesOfItsButtonsAndStarsAtRest) {
     EXPECT_EQ(desk.failure(), "");
     EXPECT_EQ(pictureOf("picStudy"), "study1.jpg");
 }
+
+TEST_F(CourseTableStart, AStepNumberThatIsNoNumberIsToldWithItsTableAndRow) {
+    desk.exec(support::courseStore, "update tablework set recordno='abc'");
+    openTable();
+    EXPECT_TRUE(desk.failure().contains("field 'recordno' of table 'tablework' of 'D:\\\\tovalin.mdb'"))
+        << desk.failure().toStdString();
+}

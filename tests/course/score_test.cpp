@@ -3,6 +3,8 @@
 #include "platform/error.h"
 #include "tests/support/store.h"
 
+#include <sqlite3.h>
+
 using support::Desk;
 using support::faultOf;
 using support::scoreStore;
@@ -229,4 +231,36 @@ TEST(AverageScore, ThreeFinalStepsRunAHundredSeventyFiveSeventyFive) {
 TEST(AverageScore, AStepBeyondTheTwentiethIsOutOfBounds) {
     const std::array<core::Int16, core::finalStepLimit> scores{};
     EXPECT_THROW(course::averageScore(scores, 21), platform::RuntimeError);
+}
+
+namespace {
+
+/// Whether the removal of each journal was made lasting before the engine went on.
+std::vector<bool>& lastingRemovals() {
+    static std::vector<bool> removals;
+    return removals;
+}
+
+/// Looks on from between the engine and the disk.
+sqlite3_vfs& watchingDisk() {
+    static sqlite3_vfs disk = *sqlite3_vfs_find(nullptr);
+    static const auto remove = disk.xDelete;
+    disk.zName = "watching";
+    disk.xDelete = [](sqlite3_vfs* vfs, const char* name, int lasting) {
+        lastingRemovals().push_back(lasting != 0);
+        return remove(vfs, name, lasting);
+    };
+    return disk;
+}
+
+}  // namespace
+
+TEST(SaveScore, ASaveThatHasReturnedIsNotTakenBackByAPowerCut) {
+    Desk desk;
+    sqlite3_vfs_register(&watchingDisk(), 1);
+    takeStep(desk, 5, 0);
+    save(desk, 4, 30);
+    save(desk, 4, 50);
+    // A journal that came back with the power would take the save back with it.
+    EXPECT_EQ(lastingRemovals(), (std::vector<bool>{true, true}));
 }

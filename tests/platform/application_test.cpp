@@ -22,7 +22,7 @@ TEST_P(FailureEndsTheRun, AfterOneCriticalBoxWithNumberAndSentence) {
     EXPECT_TRUE(QString::fromUtf8(child.readAllStandardError()).contains(text));
 }
 
-INSTANTIATE_TEST_SUITE_P(Ways, FailureEndsTheRun, testing::Values("tick", "posted", "startup"),
+INSTANTIATE_TEST_SUITE_P(Ways, FailureEndsTheRun, testing::Values("tick", "posted", "startup", "again"),
                          [](const auto& way) { return std::string(way.param); });
 
 TEST(FailureText, AnyOtherFailureIsToldInItsOwnWords) {

@@ -5,6 +5,11 @@
 
 #include <QFile>
 
+#include <fcntl.h>
+#include <sqlite3.h>
+#include <sys/wait.h>
+#include <unistd.h>
+
 using platform::Batch;
 using platform::Database;
 using platform::Query;
@@ -48,6 +53,7 @@ TEST_F(BrokenStore, AMissingStoreIsNamed) {
 TEST_F(BrokenStore, AFolderUnderTheNameIsNoStore) {
     QDir().mkpath(file);
     EXPECT_EQ(openFault(), 3024);
+    EXPECT_TRUE(sentence.contains("'D:\\tovalin.mdb' is a folder")) << sentence.toStdString();
 }
 
 TEST_F(BrokenStore, AnEmptyFileIsToldAsDamaged) {
@@ -213,4 +219,67 @@ TEST(Query, AnyOtherShapeIsASyntaxError) {
     for (const char* sql :
          {"", "Select word from words", "Delete from words", "Select * from words having a=1"})
         EXPECT_EQ(faultOf([&] { Query::parse(sql); }), 3077) << sql;
+}
+
+TEST_F(BrokenStore, AStoreThatMayNotBeReadIsNotToldAsMissing) {
+    write("SQLite format 3");
+    QFile::setPermissions(file, {});
+    if (QFile opened(file); opened.open(QIODevice::ReadOnly))
+        GTEST_SKIP() << "nothing is closed to this user";
+    EXPECT_EQ(openFault(), 3049);
+    EXPECT_TRUE(sentence.startsWith("'D:\\tovalin.mdb' cannot be opened: ")) << sentence.toStdString();
+}
+
+TEST(Database, OpeningAStoreAgainKeepsTheLocksThatARunOfEditsHolds) {
+    const TemporaryStore store(twoWords);
+    const Database database = store.open();
+    const Batch batch(database);
+    const Database again = store.open();
+    const pid_t onlooker = fork();
+    if (onlooker == 0) {
+        // The byte that the engine locks for whoever is about to write.
+        struct flock lock {};
+        lock.l_type = F_WRLCK;
+        lock.l_whence = SEEK_SET;
+        lock.l_start = 0x40000001;
+        lock.l_len = 1;
+        const int file = open(store.file().toLocal8Bit().constData(), O_RDWR);
+        fcntl(file, F_GETLK, &lock);
+        _exit(lock.l_type == F_UNLCK ? 1 : 0);
+    }
+    int status = 0;
+    waitpid(onlooker, &status, 0);
+    EXPECT_EQ(WEXITSTATUS(status), 0) << "another program could write into the middle of the run";
+}
+
+TEST(Database, AFieldThatAConditionOrAnOrderMissesIsToldWithItsTableAndStore) {
+    const TemporaryStore store(twoWords);
+    const Database database = store.open();
+    for (const char* sql : {"Select * from words where page=1", "Select * from words order by page"}) {
+        QString sentence;
+        EXPECT_EQ(faultOf([&] { database.openRecordset(QLatin1String(sql)); }, &sentence), 3265);
+        EXPECT_EQ(sentence, "There is no field 'page' in table 'words' of 'D:\\tovalin.mdb'.");
+    }
+    auto rows = database.openRecordset(QStringLiteral("Select * from words"));
+    QString sentence;
+    EXPECT_EQ(faultOf([&] { rows.findFirst(QStringLiteral("page=1")); }, &sentence), 3265);
+    EXPECT_EQ(sentence, "There is no field 'page' in table 'words' of 'D:\\tovalin.mdb'.");
+}
+
+TEST(Database, AStoreThatWasReplacedWhileItWasInUseIsToldAsSuch) {
+    const TemporaryStore store(twoWords);
+    const TemporaryStore newer(twoWords);
+    const Database database = store.open();
+    auto rows = database.openRecordset(QStringLiteral("Select * from words"));
+    ASSERT_EQ(std::rename(newer.file().toLocal8Bit().constData(), store.file().toLocal8Bit().constData()), 0);
+    QString sentence;
+    EXPECT_EQ(faultOf(
+                  [&] {
+                      rows.edit();
+                      rows.set(QStringLiteral("word"), QStringLiteral("plum"));
+                      rows.update();
+                  },
+                  &sentence),
+              3049);
+    EXPECT_EQ(sentence, "'D:\\tovalin.mdb' was replaced while it was in use. Start the program again.");
 }

@@ -41,9 +41,14 @@ int main(int argc, char** argv) {
     const QString way = application.arguments().value(1);
     platform::Timer timer("TimerGo", 1, nullptr);
     timer.onTick = fail;
+    platform::Timer another("Timer2", 2, nullptr);
+    another.onTick = [] { throw std::runtime_error("another failure"); };
     if (way == QStringLiteral("tick"))
         timer.setEnabled(true);
-    else if (way == QStringLiteral("posted"))
+    else if (way == QStringLiteral("again")) {
+        timer.setEnabled(true);
+        another.setEnabled(true);
+    } else if (way == QStringLiteral("posted"))
         QMetaObject::invokeMethod(&application, fail, Qt::QueuedConnection);
     else
         application.guarded(fail);

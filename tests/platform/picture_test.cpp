@@ -100,3 +100,21 @@ TEST(Hourglass, IsTheCursorForAsLongAsItLives) {
     }
     EXPECT_EQ(QApplication::overrideCursor(), nullptr);
 }
+
+TEST_F(PictureTest, APictureThatWasCutOffIsAnErrorThatNamesIt) {
+    paint(file, 200, Qt::blue);
+    QFile picture(file);
+    ASSERT_TRUE(picture.resize(picture.size() - 200));
+    QString sentence;
+    EXPECT_EQ(faultOf([&] { loadPicture(file, shown, 1.0); }, &sentence), 481);
+    EXPECT_TRUE(sentence.contains(shown));
+}
+
+TEST_F(PictureTest, SomethingBehindAPictureDoesNoHarm) {
+    paint(file, 20, Qt::blue);
+    QFile picture(file);
+    ASSERT_TRUE(picture.open(QIODevice::Append));
+    picture.write(QByteArray(10000, 'x'));
+    picture.close();
+    EXPECT_EQ(faultOf([&] { loadPicture(file, shown, 1.0); }), 0);
+}

@@ -114,3 +114,11 @@ TEST_F(SettingsTest, AgreesWithTheToolkitsOwnReaderAndWriter) {
 TEST(SettingsPlace, IsAFileNamedAfterTheApplicationInTheUsersConfiguration) {
     EXPECT_EQ(platform::settingsPlace("Mendori"), qEnvironmentVariable("XDG_CONFIG_HOME") + "/Mendori.ini");
 }
+
+TEST_F(SettingsTest, WhatAnotherProgramWroteInAnotherEncodingIsKeptByteByByte) {
+    byHand("[Other]\nTown=\xB0\xA1\n[General Information]\nUserID=7\n");
+    settings.write(application, general, "UserID", "8");
+    QFile in(platform::settingsPlace(application));
+    ASSERT_TRUE(in.open(QIODevice::ReadOnly));
+    EXPECT_EQ(in.readAll(), "[Other]\nTown=\xB0\xA1\n[General Information]\nUserID=8\n");
+}

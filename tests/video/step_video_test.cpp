@@ -135,4 +135,12 @@ TEST_F(StepVideo, AfterThePlayerSpaceGoesOn) {
     EXPECT_TRUE(waitFor([&] { return desk.top() == nullptr; }));
 }
 
+TEST_F(StepVideo, ATipRowWithoutAVideoNumberIsToldWithItsTableAndRow) {
+    desk.exec(masterStore, "update tovalin1_gram_tip set autono=null");
+    EXPECT_EQ(watch(21), nullptr);
+    EXPECT_TRUE(
+        desk.failure().contains("field 'autono' of table 'tovalin1_gram_tip' of 'D:\\\\Tovalin_Data.mdb'"))
+        << desk.failure().toStdString();
+}
+
 }  // namespace

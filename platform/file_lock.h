@@ -1,0 +1,24 @@
+#pragma once
+
+#include <QString>
+
+namespace platform {
+
+/// A lock between programs that the system takes back when its holder ends, however it ends. It stands on an
+/// empty file of its own, which stays.
+class FileLock {
+   public:
+    FileLock() = default;
+    ~FileLock();
+    FileLock(const FileLock&) = delete;
+    FileLock& operator=(const FileLock&) = delete;
+
+    /// Takes the lock; false while another program holds it. Where no lock can be made, as on a read-only
+    /// disk, there is none to wait for.
+    bool tryTake(const QString& file);
+
+   private:
+    int handle_ = -1;
+};
+
+}  // namespace platform

@@ -1,0 +1,95 @@
+// Set-up run again over an install: after a run that was cut short, and while others are at work in it.
+
+#include "core/turn.h"
+#include "tests/support/desk.h"
+#include "tools/install.h"
+
+#include <SQLiteCpp/SQLiteCpp.h>
+#include <QDir>
+#include <QFile>
+
+#include <gtest/gtest.h>
+
+namespace {
+
+class Rebuild : public testing::Test {
+   protected:
+    Rebuild() {
+        const QString example = QStringLiteral(MENDORI_SOURCE "/docs/example-course");
+        QDir().mkpath(course + QStringLiteral("/unit01"));
+        for (const char* part : {"", "/unit01"})
+            for (const QString& name :
+                 QDir(example + QLatin1String(part)).entryList({QStringLiteral("*.csv")}))
+                QFile::copy(example + QLatin1String(part) + u'/' + name,
+                            course + QLatin1String(part) + u'/' + name);
+        make(example);
+    }
+    /// What the set-up refuses with, empty where it does its work.
+    QString make(const QString& from) const {
+        tools::InstallPlan plan;
+        plan.root = root;
+        plan.courseFolder = from;
+        try {
+            tools::makeStores(plan);
+        } catch (const std::exception& failure) {
+            return QString::fromUtf8(failure.what());
+        }
+        return {};
+    }
+    void rename(const char* before, const char* after) const {
+        QFile table(course + QStringLiteral("/topic.csv"));
+        ASSERT_TRUE(table.open(QIODevice::ReadWrite));
+        const QByteArray text = table.readAll();
+        ASSERT_TRUE(text.contains(before));
+        table.resize(0);
+        table.write(QByteArray(text).replace(before, after));
+    }
+    QString title(const char* store) const {
+        const SQLite::Database opened(root.toStdString() + store, SQLite::OPEN_READONLY);
+        SQLite::Statement query(opened, "select Title from topic where topicno=1");
+        query.executeStep();
+        return QString::fromUtf8(query.getColumn(0).getText());
+    }
+    QByteArray firstTitle() const { return title("/D/tovalin.mdb").toUtf8(); }
+
+    QTemporaryDir folder;
+    const QString course = folder.filePath(QStringLiteral("course"));
+    const QString root = folder.filePath(QStringLiteral("install"));
+};
+
+}  // namespace
+
+TEST_F(Rebuild, AfterARunThatWasCutShortTheNextMakesEveryStoreAnewWhicheverCourseItIsOf) {
+    const QByteArray before = firstTitle();
+    rename(before.constData(), "Another title");
+    const QString store = root + QStringLiteral("/C/Larkfield/Larkfield2013/Tovalin1/tovalin.mdb");
+    QFile::rename(store, folder.filePath(QStringLiteral("kept")));
+    QFile foreign(store);
+    ASSERT_TRUE(foreign.open(QIODevice::WriteOnly));
+    foreign.write("no store at all");
+    foreign.close();
+    EXPECT_TRUE(make(course).contains("is left as it is"));
+    ASSERT_EQ(title("/D/tovalin.mdb"), "Another title") << "the first store was made before the refusal";
+    ASSERT_TRUE(QFile::remove(store));
+    ASSERT_TRUE(QFile::rename(folder.filePath(QStringLiteral("kept")), store));
+    rename("Another title", before.constData());
+    EXPECT_EQ(make(course), QString());
+    EXPECT_EQ(title("/D/tovalin.mdb").toUtf8(), before);
+    EXPECT_EQ(title("/C/Larkfield/Larkfield2013/Tovalin1/tovalin.mdb").toUtf8(), before);
+}
+
+TEST_F(Rebuild, StoresThatAProgramHasOpenAreNotReplaced) {
+    platform::FileLock program;
+    ASSERT_TRUE(program.tryTake(root + QStringLiteral("/D/") + core::turnFileName));
+    const QByteArray before = firstTitle();
+    EXPECT_EQ(make(course), QString()) << "nothing has changed, so nothing is replaced";
+    rename(before.constData(), "Another title");
+    EXPECT_TRUE(make(course).contains("is open. Close the program"));
+    EXPECT_EQ(firstTitle(), before);
+}
+
+TEST_F(Rebuild, ASecondSetUpLeavesTheRootToTheFirst) {
+    platform::FileLock first;
+    ASSERT_TRUE(first.tryTake(root + QStringLiteral("/.mendori-setup.lock")));
+    EXPECT_TRUE(make(course).contains("Another set-up is at work"));
+}
