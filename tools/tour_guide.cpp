@@ -84,6 +84,14 @@ platform::Database TourGuide::open(const QString& drivePath) const {
     return platform::Database::open(program_.drives().resolve(drivePath), drivePath);
 }
 
+QStringList TourGuide::column(const QString& drivePath, const QString& sql, const QString& field) const {
+    auto rows = open(drivePath).openRecordset(sql);
+    QStringList texts;
+    for (; !rows.eof(); rows.moveNext())
+        texts.append(rows.text(field));
+    return texts;
+}
+
 void TourGuide::passWordsAndVideo(const QString& screen) {
     const auto standing = [&](const char* name) {
         const core::Screen* top = program_.screens().top();

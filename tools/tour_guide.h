@@ -33,6 +33,8 @@ class TourGuide {
 
     /// Opens a store of the tour's install by its drive path.
     platform::Database open(const QString& drivePath) const;
+    /// One field of the rows of a query on a store of the tour's install.
+    QStringList column(const QString& drivePath, const QString& sql, const QString& field) const;
     /// Leaves word exercises and video, should they come first, and waits for the screen behind them.
     void passWordsAndVideo(const QString& screen);
 
@@ -75,5 +77,8 @@ struct TourChapter {
     void (*walk)(TourGuide&);
 };
 const std::vector<TourChapter>& tourChapters();
+
+/// The chapter of a Final Quiz, from its announcement to the one score that it leaves.
+void walkAFinal(TourGuide& guide);
 
 }  // namespace tools

@@ -1,4 +1,3 @@
-#include "platform/database.h"
 #include "platform/media_view.h"
 #include "tools/tour_guide.h"
 
@@ -11,15 +10,6 @@ namespace {
 constexpr qint64 firstSecond = 1000;  // milliseconds of a video until its first slide stands
 const QString testWordStore = QStringLiteral("D:\\testword_2013.mdb");
 const QString courseStore = QStringLiteral("D:\\tovalin.mdb");
-
-/// The rows of a working table, a field each, in the order asked for.
-QStringList column(TourGuide& guide, const QString& store, const QString& sql, const QString& field) {
-    auto rows = guide.open(store).openRecordset(sql);
-    QStringList texts;
-    for (; !rows.eof(); rows.moveNext())
-        texts.append(rows.text(field));
-    return texts;
-}
 
 void seeTheTable(TourGuide& guide) {
     guide.await(QStringLiteral("frmTable"));
@@ -56,7 +46,7 @@ void spellTheWords(TourGuide& guide) {
     guide.await(QStringLiteral("frmVoca2"));
     guide.picture(QStringLiteral("spelling-coach"));
     const QStringList words =
-        column(guide, testWordStore, QStringLiteral("Select * from testword"), QStringLiteral("word"));
+        guide.column(testWordStore, QStringLiteral("Select * from testword"), QStringLiteral("word"));
     guide.control(QStringLiteral("txtWord")).setFocus();
     guide.pictureNextBox(QStringLiteral("spelling-second-chance"));
     for (int miss = 0; miss < 2; ++miss) {
@@ -78,10 +68,10 @@ void matchTheWords(TourGuide& guide) {
     guide.picture(QStringLiteral("word-matching"));
     for (int page = 0; page < 2; ++page) {
         const QStringList places =
-            column(guide, testWordStore,
-                   QStringLiteral("Select * from testword6 where %1 order by orderno")
-                       .arg(page == 0 ? QStringLiteral("orderno<=10") : QStringLiteral("orderno>10")),
-                   QStringLiteral("orderno2"));
+            guide.column(testWordStore,
+                         QStringLiteral("Select * from testword6 where %1 order by orderno")
+                             .arg(page == 0 ? QStringLiteral("orderno<=10") : QStringLiteral("orderno>10")),
+                         QStringLiteral("orderno2"));
         for (int i = 0; i < places.size(); ++i) {
             if (page == 1 && i + 1 == places.size())
                 guide.pictureNextBox(QStringLiteral("word-matching-score"));
@@ -100,9 +90,8 @@ void takeTheWordQuiz(TourGuide& guide) {
     guide.await(QStringLiteral("frmVoca4"));
     guide.click(QStringLiteral("picBegin"));
     guide.picture(QStringLiteral("word-quiz"));
-    const QStringList words =
-        column(guide, testWordStore, QStringLiteral("Select * from testword2 order by orderno"),
-               QStringLiteral("word"));
+    const QStringList words = guide.column(
+        testWordStore, QStringLiteral("Select * from testword2 order by orderno"), QStringLiteral("word"));
     for (qsizetype i = 0; i < words.size(); ++i) {
         const QString number = QString::number(i + 1);
         guide.waitUntil([&] { return guide.as<QLabel>(QStringLiteral("lblNow")).text() == number; },
@@ -136,9 +125,8 @@ void typeAnswers(TourGuide& guide, const QStringList& answers, const QList<int>&
 void drillThePlurals(TourGuide& guide) {
     guide.await(QStringLiteral("frmLesson"));
     guide.picture(QStringLiteral("drill-study"));
-    const QStringList answers =
-        column(guide, courseStore, QStringLiteral("Select * from basic_Data order by orderno"),
-               QStringLiteral("word2"));
+    const QStringList answers = guide.column(
+        courseStore, QStringLiteral("Select * from basic_Data order by orderno"), QStringLiteral("word2"));
     guide.click(QStringLiteral("picBegin"));
     typeAnswers(guide, answers, {3, 8, 20});
     guide.picture(QStringLiteral("drill-typed"));
@@ -240,15 +228,11 @@ void seeVideosAndSheets(TourGuide& guide) {
 
 const std::vector<TourChapter>& tourChapters() {
     static const std::vector<TourChapter> chapters{
-        {"The course table", seeTheTable},
-        {"Spelling coach", spellTheWords},
-        {"Word matching", matchTheWords},
-        {"Word quiz", takeTheWordQuiz},
-        {"The step's video", watchTheVideo},
-        {"The drill", drillThePlurals},
-        {"The quizzes", seeTheQuizzes},
-        {"The other drills", seeTheOtherDrills},
-        {"Videos and worksheets", seeVideosAndSheets},
+        {"The course table", seeTheTable},       {"Spelling coach", spellTheWords},
+        {"Word matching", matchTheWords},        {"Word quiz", takeTheWordQuiz},
+        {"The step's video", watchTheVideo},     {"The drill", drillThePlurals},
+        {"The quizzes", seeTheQuizzes},          {"A Final Quiz", walkAFinal},
+        {"The other drills", seeTheOtherDrills}, {"Videos and worksheets", seeVideosAndSheets},
     };
     return chapters;
 }
