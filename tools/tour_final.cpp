@@ -65,6 +65,7 @@ void passTheStepBefore(TourGuide& guide) {
     guide.click(QStringLiteral("lblTitle"), rowBeforeTheFinal - 1);
     guide.await(QStringLiteral("frmQuiz4"));
     correctTheSentences(guide, questionsOf(guide, QStringLiteral("19")), false);
+    guide.pictureNextBox(QStringLiteral("next-lesson-asked"));
     guide.pictureNextBox(QStringLiteral("final-announced"));
     guide.click(QStringLiteral("picNext"));
 }
