@@ -2,6 +2,7 @@
 
 #include "tools/command_line.h"
 #include "tools/install.h"
+#include "tools/unfinished_file.h"
 
 #include <QElapsedTimer>
 #include <QFileInfo>
@@ -23,7 +24,8 @@ int build(const InstallPlan& plan) {
     std::printf("%d rows in %d stores below %s (%lld ms)\n", stores.rows, stores.stores,
                 qUtf8Printable(plan.root), static_cast<long long>(timer.elapsed()));
     if (stores.warnings > 0)
-        std::printf("%d warnings; course check tells them.\n", stores.warnings);
+        std::printf("%d warning%s; course check tells them.\n", stores.warnings,
+                    stores.warnings == 1 ? "" : "s");
     return exitFine;
 }
 
@@ -50,6 +52,7 @@ int runBuild(const QStringList& arguments) {
     plan.courseFolder = call.positionalArguments().value(0, starterFolder());
     if (!QFileInfo(plan.courseFolder).isDir())
         return line.wrongCall(QStringLiteral("there is no folder %1.").arg(plan.courseFolder));
+    removeUnfinishedOnInterrupt();
     try {
         return build(plan);
     } catch (const std::exception& failure) {

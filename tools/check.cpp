@@ -1,5 +1,7 @@
 #include "tools/check.h"
 
+#include <QSet>
+
 #include <algorithm>
 #include <cstring>
 
@@ -7,17 +9,28 @@ namespace tools::check {
 
 namespace {
 
-constexpr std::array subjects{tableRules,       stepRules,     walkRules,      wordRules,   drillRules,
-                              drillAnswerRules, ruleLineRules, tipRules,       quizRules,   choiceRules,
-                              poolRules,        typedRules,    wrongWordRules, buttonRules, sheetRules,
-                              finalRules,       repeatRules};
+constexpr std::array subjects{tableRules,       stepRules,     walkRules,  wordRules,      drillRules,
+                              drillAnswerRules, ruleLineRules, tipRules,   quizRules,      choiceRules,
+                              giveawayRules,    poolRules,     typedRules, wrongWordRules, buttonRules,
+                              sheetRules,       finalRules,    repeatRules};
+
+/// Text tables may hold line breaks and worse; a finding is to keep its two lines.
+QString visible(const QString& text) {
+    QString shown;
+    for (const QChar c : text)
+        if (c.unicode() < 0x20 || c.unicode() == 0x7F)
+            shown += QStringLiteral("\\u%1").arg(c.unicode(), 4, 16, QLatin1Char('0'));
+        else
+            shown += c;
+    return shown;
+}
 
 }  // namespace
 
 QString Finding::text() const {
     const QString kind = severity == Severity::Error ? QStringLiteral("error") : QStringLiteral("warning");
     return QStringLiteral("%1: %2: %3 [%4]\n    right: %5")
-        .arg(place.text(), kind, wrong, QLatin1String(rule), right);
+        .arg(visible(place.text()), kind, visible(wrong), QLatin1String(rule), visible(right));
 }
 
 void Findings::add(const SourcePlace& place, const QString& wrong, const QString& right) {
@@ -46,8 +59,19 @@ std::vector<Finding> checkCourse(const Course& course, const char* onlyRule) {
 std::vector<Finding> unreadable(const Damages& damages) {
     std::vector<Finding> findings;
     for (const SourceError& damage : damages)
-        findings.push_back({Severity::Error, unreadableRule, damage.place(), damage.sentence(),
-                            QStringLiteral("a table as the author's guide tells, in UTF-8")});
+        findings.push_back(
+            {Severity::Error, unreadableRule, damage.place(), damage.sentence(), damage.right()});
+    return findings;
+}
+
+std::vector<Finding> checkTables(const Course& course, const Damages& damages) {
+    std::vector<Finding> findings = unreadable(damages);
+    QSet<QString> told;
+    for (const SourceError& damage : damages)
+        told.insert(damage.place().text());
+    for (Finding& finding : checkCourse(course))
+        if (!told.contains(finding.place.text()))
+            findings.push_back(std::move(finding));
     return findings;
 }
 

@@ -21,7 +21,8 @@ struct Finding {
     QString wrong;
     QString right;
 
-    /// Two lines: the place with what is wrong, and what would be right.
+    /// Two lines: the place with what is wrong, and what would be right. Characters that nobody sees stand as
+    /// their codes.
     QString text() const;
 };
 
@@ -60,6 +61,7 @@ std::span<const Rule> ruleLineRules();
 std::span<const Rule> tipRules();
 std::span<const Rule> quizRules();
 std::span<const Rule> choiceRules();
+std::span<const Rule> giveawayRules();
 std::span<const Rule> poolRules();
 std::span<const Rule> typedRules();
 std::span<const Rule> wrongWordRules();
@@ -79,6 +81,9 @@ std::vector<Finding> checkCourse(const Course& course, const char* onlyRule = nu
 
 /// Places that could not be read, as findings.
 std::vector<Finding> unreadable(const Damages& damages);
+
+/// Places that could not be read, and behind them what the rules find elsewhere.
+std::vector<Finding> checkTables(const Course& course, const Damages& damages);
 
 int errorCount(const std::vector<Finding>& findings);
 

@@ -47,13 +47,8 @@ struct Checked {
 
 Checked checkTables(const std::vector<BuiltTable>& tables, const Damages& damages,
                     std::optional<check::Media> media) {
-    Checked checked;
-    checked.findings = check::unreadable(damages);
     const check::Course course(tables, std::move(media));
-    for (Finding& finding : check::checkCourse(course))
-        checked.findings.push_back(std::move(finding));
-    checked.rows = course.rowCount;
-    return checked;
+    return {check::checkTables(course, damages), course.rowCount};
 }
 
 Checked checkFolder(const QString& folder) {
@@ -64,7 +59,7 @@ Checked checkFolder(const QString& folder) {
 }
 
 Checked checkInstall(const QString& root) {
-    const check::InstallTables install = check::readInstall(root);
+    const check::InstallTables install = check::readInstall(root, picturesFolder());
     return checkTables(install.tables, install.damages, install.media);
 }
 
@@ -87,8 +82,9 @@ int report(Checked checked, const QCommandLineParser& call, qint64 milliseconds)
             print(finding.text() + u'\n');
     const int errors = check::errorCount(findings);
     const int warnings = static_cast<int>(findings.size()) - errors;
-    std::printf("%d rows: %d error%s, %d warning%s (%lld ms)\n", checked.rows, errors, errors == 1 ? "" : "s",
-                warnings, warnings == 1 ? "" : "s", static_cast<long long>(milliseconds));
+    const auto s = [](int count) { return count == 1 ? "" : "s"; };
+    std::printf("%d row%s: %d error%s, %d warning%s (%lld ms)\n", checked.rows, s(checked.rows), errors,
+                s(errors), warnings, s(warnings), static_cast<long long>(milliseconds));
     return findings.empty() ? exitFine : exitFindings;
 }
 

@@ -89,10 +89,18 @@ struct Content {
     std::vector<const SheetRow*> sheet;
 };
 
+/// Pictures of one folder that are not there.
+struct MissingPictures {
+    QString folder;  // "D:\\button"
+    QStringList names;
+    int wanted = 0;
+};
+
 /// What lies beside the stores of a finished install.
 struct Media {
     std::unordered_set<QString> sounds;  // names without their ending, in lower case
     std::unordered_set<int> videos;
+    std::vector<MissingPictures> missing;
 };
 
 class Course {

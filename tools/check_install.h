@@ -12,9 +12,9 @@ struct InstallTables {
     Damages damages;
 };
 
-/// Reads the stores below a root folder without changing them. What cannot be read is told in `damages`: a
-/// missing store or table, a genuine Access file, fields in another order than the copies by position count
-/// on.
-InstallTables readInstall(const QString& root);
+/// Reads the stores below a root folder without changing them. What the program would not find is told in
+/// `damages`: a store, a table or a field that is missing, a genuine Access file. Where `pictures` is a
+/// folder of rendered pictures, the install's own are held against its names.
+InstallTables readInstall(const QString& root, const QString& pictures = {});
 
 }  // namespace tools::check

@@ -96,6 +96,22 @@ void setTwice(const Course& course, Findings& findings) {
                });
 }
 
+/// The first row's answer is read off the second.
+void promptTwice(const Course& course, Findings& findings) {
+    QSet<std::pair<int, QString>> seen;
+    eachAnswer(course, [&](const DrillShape& shape, const DrillRow& row, const char*, const QString&) {
+        const bool prompted =
+            shape.prompt != 0 && (shape.lastPrompted == 0 || row.order <= shape.lastPrompted);
+        if (!prompted || folded(row.word[1]).isEmpty())
+            return;
+        const std::pair key(row.record.value_or(0), folded(row.word[1]));
+        if (seen.contains(key))
+            findings.add(row.at("word1"), QStringLiteral("'%1' prompts another box already").arg(row.word[1]),
+                         QStringLiteral("a prompt that no other row has"));
+        seen.insert(key);
+    });
+}
+
 void setCapital(const Course& course, Findings& findings) {
     eachAnswer(
         course, [&](const DrillShape& shape, const DrillRow& row, const char* field, const QString& answer) {
@@ -149,6 +165,7 @@ constexpr std::array rules{
          answerTypable},
     Rule{"drill-list-twice", Severity::Error, "words asked in any order are all different", listedTwice},
     Rule{"drill-set-twice", Severity::Warning, "no word is asked twice in a drill of words", setTwice},
+    Rule{"drill-prompt-twice", Severity::Warning, "no prompt stands twice in a drill", promptTwice},
     Rule{"drill-set-capital", Severity::Warning, "words of the set drills are written small", setCapital},
     Rule{"drill-studied-other", Severity::Warning, "the comparison drill asks what it showed", studiedOther},
     Rule{"drill-pronouns", Severity::Error, "the pronoun drill follows the prompts of its screen",

@@ -35,6 +35,9 @@ void stepUnit(const Course& course, Findings& findings) {
     for (const Topic& topic : course.topics)
         if (topic.topic)
             known.insert(*topic.topic);
+    // A table of units that cannot be read is told as such.
+    if (known.empty())
+        return;
     for (const Step& step : course.steps)
         if (!step.topic || !known.contains(*step.topic))
             findings.add(step.at("topicno"), QStringLiteral("%1 lies in no unit").arg(step.called()),
@@ -77,10 +80,19 @@ void unitEmpty(const Course& course, Findings& findings) {
                 QStringLiteral("at least one row of tablework in the unit"));
 }
 
+/// Visits the steps of each unit once, however often the unit is named.
+template <typename Visit>
+void eachUnit(const Course& course, Visit visit) {
+    std::unordered_set<int> visited;
+    for (const Topic& topic : course.topics)
+        if (const auto& unit = course.unit(topic.topic); !unit.empty() && visited.insert(*topic.topic).second)
+            visit(*topic.topic, unit);
+}
+
 void unitPlace(const Course& course, Findings& findings) {
-    for (const Topic& topic : course.topics) {
+    eachUnit(course, [&](int, const std::vector<const Step*>& unit) {
         int place = 0;
-        for (const Step* step : course.unit(topic.topic))
+        for (const Step* step : unit)
             if (++place; step->page != place)
                 findings.add(step->at("pageno"),
                              QStringLiteral(
@@ -88,18 +100,46 @@ void unitPlace(const Course& course, Findings& findings) {
                                  "menu takes another")
                                  .arg(step->called()),
                              QStringLiteral("%1, its place in the unit").arg(place));
-    }
+    });
 }
 
 void unitSize(const Course& course, Findings& findings) {
-    for (const Topic& topic : course.topics)
-        if (const auto& unit = course.unit(topic.topic); unit.size() > sheetLabels)
+    eachUnit(course, [&](int topic, const std::vector<const Step*>& unit) {
+        if (unit.size() > sheetLabels)
             findings.add(
                 unit[sheetLabels]->at("topicno"),
                 QStringLiteral("unit %1 has %2 steps, and the worksheet menu ends the program at the 23rd")
-                    .arg(*topic.topic)
+                    .arg(topic)
                     .arg(unit.size()),
                 QStringLiteral("at most %1 steps in a unit").arg(sheetLabels));
+    });
+}
+
+void unitOpener(const Course& course, Findings& findings) {
+    eachUnit(course, [&](int topic, const std::vector<const Step*>& unit) {
+        if (!unit.front()->isLesson())
+            findings.add(unit.front()->at("Type"),
+                         QStringLiteral("unit %1 opens with a %2, before anything was taught")
+                             .arg(topic)
+                             .arg(unit.front()->type),
+                         QStringLiteral("a Lesson as the unit's first step"));
+    });
+}
+
+/// A Final asks the quizzes of its whole unit; the two of the first unit know their ranges.
+void finalBeforeQuiz(const Course& course, Findings& findings) {
+    for (const Step& final : course.steps) {
+        if (!final.isFinal())
+            continue;
+        const std::vector<const Step*> drawn = course.drawnBy(final);
+        const auto later = std::find_if(drawn.begin(), drawn.end(),
+                                        [&](const Step* step) { return step->record > final.record; });
+        if (later != drawn.end())
+            findings.add(final.at("recordno"),
+                         QStringLiteral("the Final of %1 asks questions of %2, which comes behind it")
+                             .arg(final.called(), (*later)->called()),
+                         QStringLiteral("a number behind the unit's last quiz"));
+    }
 }
 
 void stepType(const Course& course, Findings& findings) {
@@ -203,6 +243,9 @@ constexpr std::array rules{
     Rule{"unit-empty", Severity::Error, "a unit has at least one step", unitEmpty},
     Rule{"unit-place", Severity::Error, "pageno is the step's place in its unit", unitPlace},
     Rule{"unit-size", Severity::Error, "a unit has at most 22 steps", unitSize},
+    Rule{"unit-opener", Severity::Warning, "a unit opens with a Lesson", unitOpener},
+    Rule{"final-last", Severity::Warning, "a Final comes behind the quizzes that it draws from",
+         finalBeforeQuiz},
     Rule{"step-type", Severity::Error, "a step is a Lesson, a Quiz or a Final", stepType},
     Rule{"step-screen", Severity::Error, "useform names a screen", stepScreen},
     Rule{"step-screen-type", Severity::Warning, "a Lesson opens a drill and a Quiz a quiz",

@@ -84,7 +84,7 @@ void videoNumber(const Course& course, Findings& findings) {
     QHash<int, int> opened;
     for (const Step& step : course.steps) {
         const auto& tips = course.of(step.record).tips;
-        if (!runsVideo(step) || tips.empty() || !step.topic || !tips.front()->video)
+        if (!runsVideo(step) || tips.empty() || !step.topic || tips.front()->video.value_or(0) < 1)
             continue;
         const int place = opened[*step.topic]++;
         const int menu = menuVideo(*step.topic) + (*step.topic == 1 ? place : 0);
@@ -132,15 +132,41 @@ void videoMissing(const Course& course, Findings& findings) {
     }
 }
 
+void videoValue(const Course& course, Findings& findings) {
+    for (const Step& step : course.steps) {
+        const auto& tips = course.of(step.record).tips;
+        if (runsVideo(step) && !tips.empty() && tips.front()->video.value_or(0) < 1)
+            findings.add(tips.front()->at("autono"),
+                         QStringLiteral("%1 opens with a video, and its tip gives no number for one")
+                             .arg(step.called()),
+                         QStringLiteral("a number of 1 to 32767"));
+    }
+}
+
+void picturesMissing(const Course& course, Findings& findings) {
+    if (!course.media)
+        return;
+    for (const MissingPictures& missing : course.media->missing)
+        findings.add({missing.folder, 0, {}},
+                     QStringLiteral("%1 of the %2 pictures are missing, and a screen that shows one ends the "
+                                    "program; the first is %3")
+                         .arg(missing.names.size())
+                         .arg(missing.wanted)
+                         .arg(missing.names.first()),
+                     QStringLiteral("the pictures of an install, which setup brings along"));
+}
+
 constexpr std::array rules{
     Rule{"tip-missing", Severity::Error, "a step with a video, or a drill that shows a tip, has one",
          tipMissing},
     Rule{"tip-several", Severity::Warning, "a step has one tip", tipSeveral},
     Rule{"tip-length", Severity::Warning, "a tip has 80 to 200 Korean words", tipLength},
     Rule{"tip-example", Severity::Warning, "a tip shows English examples", tipExample},
+    Rule{"video-value", Severity::Error, "the number of an opener's video is 1 or more", videoValue},
     Rule{"video-number", Severity::Warning, "a step's video is the one of the video menu", videoNumber},
     Rule{"video-twice", Severity::Warning, "no two steps open with the same video", videoTwice},
     Rule{"video-missing", Severity::Warning, "the video of an installed step is there", videoMissing},
+    Rule{"picture-missing", Severity::Warning, "the pictures of an install are there", picturesMissing},
 };
 
 }  // namespace

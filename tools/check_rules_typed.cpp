@@ -171,9 +171,19 @@ void oldLine(const Course& course, Findings& findings) {
     });
 }
 
+void pairCapital(const Course& course, Findings& findings) {
+    eachQuestion(course, {"frmQuiz9"}, [&](const Step&, const Question& question) {
+        if (question.q[1] != question.q[1].toLower())
+            findings.add(question.at("q1"),
+                         QStringLiteral("frmQuiz9 shows '%1' in small letters").arg(question.q[1]),
+                         QStringLiteral("'%1', or another word").arg(question.q[1].toLower()));
+    });
+}
+
 constexpr std::array rules{
     Rule{"typed-typable", Severity::Error, "a typed answer can be typed and has no stray blanks", typable},
     Rule{"typed-given-away", Severity::Warning, "a typed answer does not stand in its question", givenAway},
+    Rule{"pair-capital", Severity::Warning, "a word of frmQuiz9 is written small", pairCapital},
     Rule{"sentence-lines", Severity::Error, "frmQuiz6 has the lines that its step shows", sentenceLines},
     Rule{"sentence-step", Severity::Warning, "frmQuiz6 stands where it shows a Korean line", sentenceStep},
     Rule{"box-number", Severity::Error, "q3 of frmQuiz10 is a number of 1 to 4", boxNumber},

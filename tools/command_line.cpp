@@ -8,8 +8,11 @@
 namespace tools {
 
 CommandLine::CommandLine(const QString& name, const QString& description)
-    : name_(name), help_(parser_.addHelpOption()) {
+    : name_(name),
+      help_({QStringLiteral("h"), QStringLiteral("help")}, QStringLiteral("Tell the options and end.")) {
     parser_.setApplicationDescription(description);
+    // The parser's own option would bring another one along for options that no tool here has.
+    parser_.addOption(help_);
 }
 
 std::optional<int> CommandLine::parse(const QStringList& arguments) {
@@ -39,6 +42,10 @@ QString folderBesideProgram(const QString& relative) {
 
 QString starterFolder() {
     return folderBesideProgram(QStringLiteral("../../../starter"));
+}
+
+QString picturesFolder() {
+    return folderBesideProgram(QStringLiteral("../pictures"));
 }
 
 }  // namespace tools

@@ -35,4 +35,7 @@ QString folderBesideProgram(const QString& relative);
 /// The text tables of the starter course.
 QString starterFolder();
 
+/// The rendered pictures of the build that the program belongs to.
+QString picturesFolder();
+
 }  // namespace tools

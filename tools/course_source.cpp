@@ -3,10 +3,12 @@
 #include "core/schema.h"
 
 #include <QDir>
+#include <QFileInfo>
 #include <QRegularExpression>
 
 #include <algorithm>
 #include <array>
+#include <optional>
 
 namespace tools {
 
@@ -14,40 +16,59 @@ using platform::Value;
 
 namespace {
 
-/// A table that authors write, and the store that it lands in.
+/// A table that authors write, the store that it lands in, and the fields that no row of it does without.
 struct AuthoredTable {
     const char* table;
     const char* store;
+    const char* needed;
 };
 
 constexpr std::array authoredTables{
-    AuthoredTable{"topic", "tovalin.mdb"},
-    AuthoredTable{"tablework", "tovalin.mdb"},
-    AuthoredTable{"newword", "tovalin.mdb"},
-    AuthoredTable{"gram_tip2", "tovalin.mdb"},
-    AuthoredTable{"basic_data3", "tovalin.mdb"},
-    AuthoredTable{"tablework_final_data", "tovalin.mdb"},
-    AuthoredTable{"tovalin1_quiz_data", "Tovalin_Data.mdb"},
-    AuthoredTable{"tovalin1_basic_data", "Tovalin_Data.mdb"},
-    AuthoredTable{"tovalin1_gram_tip", "Tovalin_Data.mdb"},
-    AuthoredTable{"tovalin1_basicdata_115", "Tovalin_Data.mdb"},
+    AuthoredTable{"topic", "tovalin.mdb", "topicno Title"},
+    AuthoredTable{"tablework", "tovalin.mdb", "recordno Type Title Data useform"},
+    AuthoredTable{"newword", "tovalin.mdb", "recordno word korean"},
+    AuthoredTable{"gram_tip2", "tovalin.mdb", "recordno tip2"},
+    AuthoredTable{"basic_data3", "tovalin.mdb", "recordno word1 vtitle"},
+    AuthoredTable{"tablework_final_data", "tovalin.mdb", "recordno recordno2"},
+    AuthoredTable{"tovalin1_quiz_data", "Tovalin_Data.mdb", "recordno q1 a1"},
+    AuthoredTable{"tovalin1_basic_data", "Tovalin_Data.mdb", "recordno word1"},
+    AuthoredTable{"tovalin1_gram_tip", "Tovalin_Data.mdb", "recordno tips"},
+    AuthoredTable{"tovalin1_basicdata_115", "Tovalin_Data.mdb", "word"},
 };
 
 QString fromView(std::string_view text) {
     return QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
 }
 
-bool isAuthored(const QString& table) {
-    return std::any_of(authoredTables.begin(), authoredTables.end(), [&](const AuthoredTable& t) {
-        return table.compare(QLatin1String(t.table), Qt::CaseInsensitive) == 0;
-    });
+const AuthoredTable* findAuthored(const QString& table) {
+    const auto found =
+        std::find_if(authoredTables.begin(), authoredTables.end(), [&](const AuthoredTable& t) {
+            return table.compare(QLatin1String(t.table), Qt::CaseInsensitive) == 0;
+        });
+    return found == authoredTables.end() ? nullptr : &*found;
 }
 
-/// Throws the error, or keeps it where somebody collects them.
-void complain(Damages* damages, const SourceError& error) {
-    if (damages == nullptr)
-        throw error;
-    damages->push_back(error);
+QString tableNames() {
+    QStringList names;
+    for (const AuthoredTable& authored : authoredTables)
+        names.append(QLatin1String(authored.table) + QStringLiteral(".csv"));
+    return names.join(QStringLiteral(", "));
+}
+
+/// Tells of each field that the table needs and its first line does not name.
+bool hasNeededFields(const TableFile& table, const AuthoredTable& authored, Damages* damages) {
+    bool whole = true;
+    for (const QString& field : QString::fromLatin1(authored.needed).split(u' '))
+        if (table.column(field) < 0) {
+            whole = false;
+            complain(damages,
+                     {{table.file, 1, field},
+                      QStringLiteral("the first line does not name this field, and the table is left out; it "
+                                     "names %1")
+                          .arg(table.columns.join(QStringLiteral(", "))),
+                      QStringLiteral("a column '%1'").arg(field)});
+        }
+    return whole;
 }
 
 void readFolder(CourseSource& course, const QString& folder, const QString& shownPrefix, int topicNo,
@@ -55,14 +76,54 @@ void readFolder(CourseSource& course, const QString& folder, const QString& show
     const QDir dir(folder);
     for (const QString& name : dir.entryList({QStringLiteral("*.csv")}, QDir::Files, QDir::Name)) {
         try {
-            TableFile table = readTableFile(dir.filePath(name), shownPrefix + name);
-            if (!isAuthored(table.table))
-                throw SourceError({table.file, 0, {}}, QStringLiteral("a course has no table of this name"));
-            course.tables.push_back({topicNo, std::move(table)});
+            const AuthoredTable* authored = findAuthored(QFileInfo(name).completeBaseName());
+            if (authored == nullptr)
+                throw SourceError({shownPrefix + name, 0, {}},
+                                  QStringLiteral("a course has no table of this name"),
+                                  QStringLiteral("one of %1").arg(tableNames()));
+            TableFile table = readTableFile(dir.filePath(name), shownPrefix + name, damages);
+            if (hasNeededFields(table, *authored, damages))
+                course.tables.push_back({topicNo, std::move(table)});
         } catch (const SourceError& error) {
             complain(damages, error);
         }
     }
+}
+
+bool holdsTables(const QDir& folder, const QString& table = QStringLiteral("*")) {
+    return !folder.entryList({table + QStringLiteral(".csv")}, QDir::Files).isEmpty();
+}
+
+/// The number in a unit folder's name; nothing for a folder of another name.
+std::optional<int> unitNumber(const QString& name) {
+    static const QRegularExpression unitName(QStringLiteral("^unit0*([1-9]\\d{0,3})$"));
+    const auto match = unitName.match(name);
+    return match.hasMatch() ? std::optional(match.captured(1).toInt()) : std::nullopt;
+}
+
+void readUnit(CourseSource& course, const QDir& dir, const QString& name, std::map<int, QString>& known,
+              Damages* damages) {
+    const QDir folder(dir.filePath(name));
+    const std::optional<int> number = unitNumber(name);
+    if (!number) {
+        if (holdsTables(folder))
+            complain(damages,
+                     {{name, 0, {}},
+                      QStringLiteral("the tables of this folder are left out, since its name is that of no "
+                                     "unit"),
+                      QStringLiteral("a name such as unit02")});
+        return;
+    }
+    if (const auto [first, isNew] = known.emplace(*number, name); !isNew)
+        complain(damages,
+                 {{name, 0, {}},
+                  QStringLiteral("unit %1 has the folder %2 already").arg(*number).arg(first->second),
+                  QStringLiteral("one folder for each unit")});
+    readFolder(course, folder.path(), name + u'/', *number, damages);
+    if (!holdsTables(folder, QStringLiteral("tablework")))
+        complain(damages, {{name + QStringLiteral("/tablework.csv"), 0, {}},
+                           QStringLiteral("the table is missing, so that the unit has no step"),
+                           QStringLiteral("a table with a row for each step")});
 }
 
 // Running numbers order rows and are not read into 16 bits; all other numbers are.
@@ -80,8 +141,8 @@ Value parseValue(const QString& text, const core::FieldShape& field, const Sourc
     const qlonglong number = text.toLongLong(&isNumber);
     if (isNumber && holdsNumber(field, number))
         return static_cast<std::int64_t>(number);
-    complain(damages,
-             SourceError(place, QStringLiteral("'%1' is not a whole number of -32768 to 32767").arg(text)));
+    complain(damages, SourceError(place, QStringLiteral("'%1' is no number of this field").arg(text),
+                                  QStringLiteral("a whole number of -32768 to 32767")));
     return {};
 }
 
@@ -122,13 +183,17 @@ std::vector<const CourseSource::UnitTable*> CourseSource::named(const QString& t
 CourseSource readCourse(const QString& folder, Damages* damages) {
     CourseSource course{folder, {}};
     readFolder(course, folder, QString(), 0, damages);
-    static const QRegularExpression unitName(QStringLiteral("^unit(\\d+)$"));
     const QDir dir(folder);
+    std::map<int, QString> units;
     for (const QString& name : dir.entryList(QDir::Dirs | QDir::NoDotAndDotDot, QDir::Name))
-        if (const auto match = unitName.match(name); match.hasMatch())
-            readFolder(course, dir.filePath(name), name + u'/', match.captured(1).toInt(), damages);
-    if (course.tables.empty())
-        throw SourceError({folder, 0, {}}, QStringLiteral("the folder holds no course"));
+        readUnit(course, dir, name, units, damages);
+    if (course.tables.empty() && (damages == nullptr || damages->empty()))
+        throw SourceError({folder, 0, {}}, QStringLiteral("the folder holds no course"),
+                          QStringLiteral("a folder with topic.csv and unit01, unit02 …"));
+    if (!holdsTables(dir, QStringLiteral("topic")))
+        complain(damages, {{QStringLiteral("topic.csv"), 0, {}},
+                           QStringLiteral("the table is missing, so that the course has no unit"),
+                           QStringLiteral("a table with number and name of each unit")});
     return course;
 }
 
@@ -160,13 +225,27 @@ void BuiltCourse::add(const CourseSource& source, const QString& store, const QS
     tables_.push_back(std::move(built));
 }
 
+/// A spreadsheet writes columns without a name where a cell beside the table was touched; they may be empty.
+void BuiltCourse::checkColumns(const BuiltTable& built, const TableFile& table) {
+    for (qsizetype i = 0; i < table.columns.size(); ++i) {
+        if (!table.columns[i].isEmpty() && built.column(table.columns[i]) < 0)
+            complain(damages_, {{table.file, 1, table.columns[i]},
+                                QStringLiteral("the table has no field of this name"),
+                                QStringLiteral("one of %1").arg(built.fields.join(QStringLiteral(", ")))});
+        const auto filled = std::find_if(table.rows.begin(), table.rows.end(),
+                                         [&](const TableRow& row) { return !row.fields[i].isEmpty(); });
+        if (table.columns[i].isEmpty() && filled != table.rows.end())
+            complain(damages_, {table.place(*filled),
+                                QStringLiteral("'%1' stands in column %2, which the first line does not name")
+                                    .arg(filled->fields[i])
+                                    .arg(i + 1),
+                                QStringLiteral("a name in the first line, or an empty column")});
+    }
+}
+
 void BuiltCourse::addRows(BuiltTable& built, const CourseSource::UnitTable& unit) {
     const TableFile& table = unit.table;
-    for (const QString& column : table.columns)
-        if (built.column(column) < 0)
-            complain(damages_, SourceError({table.file, 1, column},
-                                           QStringLiteral("the table has no field of this name; it has %1")
-                                               .arg(built.fields.join(QStringLiteral(", ")))));
+    checkColumns(built, table);
     const auto* definition = core::findTable(built.store.toStdString(), built.table.toStdString());
     std::vector<int> columns;
     for (const QString& field : built.fields)

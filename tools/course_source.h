@@ -23,12 +23,8 @@ struct CourseSource {
     std::vector<const UnitTable*> named(const QString& table) const;
 };
 
-/// Told of each place that cannot be read; reading then goes on behind it. Without one the first such place
-/// ends the reading.
-using Damages = std::vector<SourceError>;
-
-/// Reads every table below a course folder: `topic.csv` beside folders `unit01`, `unit02` … Throws
-/// SourceError; one for a file whose name is no table of a course, too.
+/// Reads every table below a course folder: `topic.csv` beside folders `unit01`, `unit02` … Tables without a
+/// field that their screens live by are left out. Throws SourceError where the folder holds no table at all.
 CourseSource readCourse(const QString& folder, Damages* damages = nullptr);
 
 /// One row of a store's table as built, with the place in the text table that it came from.
@@ -61,6 +57,7 @@ class BuiltCourse {
 
    private:
     void add(const CourseSource& source, const QString& store, const QString& table);
+    void checkColumns(const BuiltTable& built, const TableFile& table);
     void addRows(BuiltTable& built, const CourseSource::UnitTable& unit);
     void fillCounts();
     void addDictionary();

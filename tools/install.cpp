@@ -55,8 +55,9 @@ class Installer {
     explicit Installer(const InstallPlan& plan) : plan_(plan), root_(plan.root) {}
 
     void run() {
-        const BuiltCourse course(readCourse(plan_.courseFolder));
-        checkCourse(course);
+        Damages damages;
+        const BuiltCourse course(readCourse(plan_.courseFolder, &damages), &damages);
+        checkCourse(course, damages);
         claimRoot();
         makeStores(course);
         makeScores();
@@ -70,9 +71,10 @@ class Installer {
     }
 
     BuiltStores runStores() {
-        const BuiltCourse course(readCourse(plan_.courseFolder));
+        Damages damages;
+        const BuiltCourse course(readCourse(plan_.courseFolder, &damages), &damages);
         BuiltStores built;
-        built.warnings = checkCourse(course);
+        built.warnings = checkCourse(course, damages);
         claimRoot();
         makeStores(course);
         writeMark(courseStamp());
@@ -84,9 +86,9 @@ class Installer {
 
    private:
     /// Throws where the course has an error; gives the number of warnings.
-    static int checkCourse(const BuiltCourse& built) {
+    static int checkCourse(const BuiltCourse& built, const Damages& damages) {
         const check::Course course(built.tables());
-        const std::vector<check::Finding> findings = check::checkCourse(course);
+        const std::vector<check::Finding> findings = check::checkTables(course, damages);
         const int errors = check::errorCount(findings);
         if (errors == 0)
             return static_cast<int>(findings.size());

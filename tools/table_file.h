@@ -19,18 +19,27 @@ struct SourcePlace {
     QString text() const;
 };
 
-/// A text table that cannot be read, with the place where reading ended.
+/// A text table that cannot be read, with the place where reading ended, and what would be right there.
 class SourceError : public std::runtime_error {
    public:
-    SourceError(SourcePlace place, QString sentence);
+    SourceError(SourcePlace place, QString sentence, QString right);
 
     const SourcePlace& place() const { return place_; }
     const QString& sentence() const { return sentence_; }
+    const QString& right() const { return right_; }
 
    private:
     SourcePlace place_;
     QString sentence_;
+    QString right_;
 };
+
+/// Told of each place that cannot be read; reading then goes on behind it. Without one the first such place
+/// ends the reading.
+using Damages = std::vector<SourceError>;
+
+/// Throws the error, or keeps it where somebody collects them.
+void complain(Damages* damages, const SourceError& error);
 
 /// One row of a text table and the line it starts on.
 struct TableRow {
@@ -54,10 +63,10 @@ struct TableFile {
     }
 };
 
-/// Reads one text table. Throws SourceError for a missing or damaged file, text that is not UTF-8, and a row
-/// with more or fewer fields than the first line names.
-TableFile readTableFile(const QString& path, const QString& shownName);
+/// Reads one text table. Throws SourceError for a missing or damaged file and for text that is not UTF-8. A
+/// row with more or fewer fields than the first line names is left out. Rows without any text do not count.
+TableFile readTableFile(const QString& path, const QString& shownName, Damages* damages = nullptr);
 /// The same from the bytes of a file.
-TableFile parseTable(QByteArray bytes, const QString& shownName);
+TableFile parseTable(QByteArray bytes, const QString& shownName, Damages* damages = nullptr);
 
 }  // namespace tools

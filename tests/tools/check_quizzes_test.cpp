@@ -115,6 +115,32 @@ const Cases choiceCases(
          {at(quizTable, 2, "q4")}},
     });
 
+const Cases giveawayCases(
+    "CheckGiveaways",
+    {
+        {"TheOnlySmallChoiceInsideASentenceGivesItselfAway",
+         "choice-capital",
+         {steps("3,Quiz,frmQuiz7\n"),
+          questions("q1,q2,q3,a1",
+                    "3,I ____ it.,like,Likes,like\n3,____ is it.,Who,Whose,Who\n3,____ go.,Me,I,I\n3,So ____ "
+                    "go.,me,I,me\n3,Likes,like,Likes,like\n")},
+         {at(quizTable, 2, "a1")}},
+        {"AChoiceThatIsNeverRightIsDead",
+         "choice-dead",
+         {steps("242,Quiz,frmQuiz8\n243,Quiz,frmQuiz8\n"),
+          questions("q1,q2,q3,q4,a1", lines(5, "242,x%,is,are,am,is") + lines(3, "242,y%,is,are,been,are") +
+                                          lines(4, "243,z%,is,are,be,is") + "243,w,be,are,is,are\n" +
+                                          "243,v,be,are,is,be\n")},
+         {at(quizTable, 2, "q4")}},
+        {"SecondAnswersThatAlwaysStandFirstGiveThemselvesAway",
+         "choice-second-position",
+         {steps("57,Quiz,frmQuiz3\n58,Quiz,frmQuiz3\n"),
+          questions("q1,q4,q5,q6,q7,a1,a2",
+                    lines(4, "57,x%,is,are,it,they,is,it") + "57,x,is,are,it,they,are,they\n" +
+                        lines(3, "58,x%,is,are,it,they,is,it") + lines(2, "58,y%,is,are,it,they,are,they"))},
+         {at(quizTable, 2, "q6")}},
+    });
+
 const Cases poolCases(
     "CheckPools",
     {
@@ -160,6 +186,10 @@ const Cases typedCases(
                     "2,Type: the cat,the cat\n2,sheep,sheep\n2,____ (go home),go home\n128,\"가라. (go, "
                     "home)\",Go home.\n128,\"가라. (home, go)\",Go home.\n")},
          {at(quizTable, 2, "a1"), at(quizTable, 5, "a1")}},
+        {"AWordOfThePairQuizIsShownSmall",
+         "pair-capital",
+         {steps("190,Quiz,frmQuiz9\n"), questions("q1,a1,a2", "190,Go,went,gone\n190,see,saw,seen\n")},
+         {at(quizTable, 2, "q1")}},
         {"ASentenceStepShowsItsKoreanLine",
          "sentence-lines",
          {steps("121,Quiz,frmQuiz6\n128,Quiz,frmQuiz6\n"),

@@ -88,8 +88,22 @@ TEST_F(CourseCommands, CheckTellsATableThatCannotBeReadAndGoesOn) {
     append("/unit01/newword.csv", "45,ox,황소\n");
     append("/unit01/gram_tip2.csv", "recordno,tip2\n45\n");
     const Ending ending = run(tools::runCheck, {course});
-    EXPECT_TRUE(contains(ending.out, "gram_tip2.csv:2: error: the row has 1 fields")) << ending.out;
+    EXPECT_TRUE(contains(ending.out, "gram_tip2.csv:2, field 'tip2': error: the row has 1 field,"))
+        << ending.out;
     EXPECT_TRUE(contains(ending.out, "newword.csv:12")) << ending.out;
+}
+
+TEST_F(CourseCommands, CheckTellsAFieldThatCannotBeReadOnce) {
+    append("/unit01/newword.csv", "4x,lamp,등\n");
+    const std::string out = run(tools::runCheck, {course}).out;
+    const std::string place = "newword.csv:12, field 'recordno'";
+    EXPECT_NE(out.find(place), std::string::npos) << out;
+    EXPECT_EQ(out.find(place), out.rfind(place)) << out;
+}
+
+TEST_F(CourseCommands, AFindingKeepsItsTwoLinesWhateverStandsInTheField) {
+    append("/unit01/newword.csv", "45,\"la\nmp\",등\n");
+    EXPECT_TRUE(contains(run(tools::runCheck, {course}).out, "'la\\u000amp' cannot be spelled"));
 }
 
 TEST_F(CourseCommands, CheckListsItsRules) {
@@ -100,6 +114,7 @@ TEST_F(CourseCommands, CheckListsItsRules) {
 
 TEST_F(CourseCommands, AWrongCallEndsWith2) {
     EXPECT_EQ(run(tools::runCheck, {QStringLiteral("--nonsense")}).status, 2);
+    EXPECT_EQ(run(tools::runCheck, {QStringLiteral("--help-all")}).status, 2);
     EXPECT_EQ(run(tools::runCheck, {course + QStringLiteral("/nowhere")}).status, 2);
     EXPECT_EQ(run(tools::runCheck, {course, QStringLiteral("--root"), root}).status, 2);
     EXPECT_EQ(run(tools::runBuild, {course}).status, 2);
@@ -129,6 +144,15 @@ TEST_F(CourseCommands, ACourseWithAnErrorIsNotBuilt) {
     const Ending ending = run(tools::runBuild, {QStringLiteral("--root"), root, course});
     EXPECT_EQ(ending.status, 1);
     EXPECT_TRUE(contains(ending.error, "1 error, and nothing was built")) << ending.error;
+    EXPECT_FALSE(QFileInfo::exists(root));
+}
+
+TEST_F(CourseCommands, BuildTellsEveryPlaceThatCannotBeRead) {
+    append("/unit01/newword.csv", "4x,lamp,등\n45\n");
+    const Ending ending = run(tools::runBuild, {QStringLiteral("--root"), root, course});
+    EXPECT_EQ(ending.status, 1);
+    EXPECT_TRUE(contains(ending.error, "newword.csv:12, field 'recordno'")) << ending.error;
+    EXPECT_TRUE(contains(ending.error, "newword.csv:13, field 'word'")) << ending.error;
     EXPECT_FALSE(QFileInfo::exists(root));
 }
 
