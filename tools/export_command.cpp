@@ -3,10 +3,11 @@
 #include "core/startup.h"
 #include "platform/look.h"
 #include "platform/settings.h"
+#include "tools/command_line.h"
 #include "tools/export_page.h"
 #include "tools/export_scores.h"
 
-#include <QCommandLineParser>
+#include <QFileInfo>
 #include <QPdfWriter>
 #include <QSaveFile>
 
@@ -16,36 +17,19 @@ namespace tools {
 
 namespace {
 
-constexpr int success = 0;
-constexpr int incomplete = 1;
-constexpr int wrongCall = 2;
 constexpr int resolution = 300;
 
-struct Call {
-    QCommandLineParser parser;
-    QCommandLineOption root{QStringLiteral("root"), QStringLiteral("Folder that plays the drives."),
-                            QStringLiteral("folder")};
-    QCommandLineOption student{QStringLiteral("student"),
-                               QStringLiteral("Student number; all learners without it."),
-                               QStringLiteral("number")};
-    QCommandLineOption csv{QStringLiteral("csv"),
-                           QStringLiteral("Write the table to this file; - for the terminal."),
-                           QStringLiteral("file")};
-    QCommandLineOption pdf{QStringLiteral("pdf"), QStringLiteral("Write the printable pages to this file."),
-                           QStringLiteral("file")};
-
-    Call() {
-        parser.setApplicationDescription(
-            QStringLiteral("Gives the scores of learners as a table and as a printable page."));
-        parser.addHelpOption();
-        parser.addOptions({root, student, csv, pdf});
-    }
-};
-
-int refuse(const QString& sentence) {
-    std::fprintf(stderr, "course export-scores: %s\n", qUtf8Printable(sentence));
-    return wrongCall;
-}
+const QCommandLineOption rootOption(QStringLiteral("root"), QStringLiteral("Folder that plays the drives."),
+                                    QStringLiteral("folder"));
+const QCommandLineOption studentOption(QStringLiteral("student"),
+                                       QStringLiteral("Student number; all learners without it."),
+                                       QStringLiteral("number"));
+const QCommandLineOption csvOption(QStringLiteral("csv"),
+                                   QStringLiteral("Write the table to this file; - for the terminal."),
+                                   QStringLiteral("file"));
+const QCommandLineOption pdfOption(QStringLiteral("pdf"),
+                                   QStringLiteral("Write the printable pages to this file."),
+                                   QStringLiteral("file"));
 
 bool writeCsv(const QString& file, const QByteArray& csv) {
     if (file == QStringLiteral("-"))
@@ -74,36 +58,35 @@ bool writePdf(const QString& file, const std::vector<LearnerScores>& learners) {
 }  // namespace
 
 int runExportScores(const QStringList& args) {
-    Call call;
-    if (!call.parser.parse(QStringList{QStringLiteral("course export-scores")} + args))
-        return refuse(call.parser.errorText());
-    if (call.parser.isSet(QStringLiteral("help"))) {
-        QString help = call.parser.helpText();
-        help.replace(0, help.indexOf(u'\n'), QStringLiteral("Usage: course export-scores [options]"));
-        std::printf("%s", qUtf8Printable(help));
-        return success;
-    }
-    if (!call.parser.positionalArguments().isEmpty() ||
-        (!call.parser.isSet(call.csv) && !call.parser.isSet(call.pdf)))
-        return refuse(QStringLiteral("give a file with --csv, with --pdf, or with both."));
-
+    CommandLine line(
+        QStringLiteral("course export-scores"),
+        QStringLiteral(
+            "Gives the scores of the learners of an install as a table, as printable pages, or as both."));
+    QCommandLineParser& call = line.parser();
+    call.addOptions({rootOption, studentOption, csvOption, pdfOption});
+    if (const auto status = line.parse(args))
+        return *status;
+    if (!call.positionalArguments().isEmpty() || (!call.isSet(csvOption) && !call.isSet(pdfOption)))
+        return line.wrongCall(QStringLiteral("it wants a file with --csv, with --pdf, or with both."));
     const platform::UserSettings settings;
-    const platform::Drives drives(call.parser.isSet(call.root) ? call.parser.value(call.root)
-                                                               : core::drivesRoot(settings));
+    const QString root = call.isSet(rootOption) ? call.value(rootOption) : core::drivesRoot(settings);
+    if (!QFileInfo(root).isDir())
+        return line.wrongCall(QStringLiteral("there is no folder %1.").arg(root));
+
+    const platform::Drives drives(root);
     QStringList problems;
-    const auto learners = readScores({drives, core::applicationFolder(settings, drives)},
-                                     call.parser.value(call.student), problems);
-    if (!learners.empty() && call.parser.isSet(call.csv) &&
-        !writeCsv(call.parser.value(call.csv), scoresAsCsv(learners)))
-        problems.append(QStringLiteral("%1 cannot be written.").arg(call.parser.value(call.csv)));
-    if (!learners.empty() && call.parser.isSet(call.pdf)) {
+    const auto learners =
+        readScores({drives, core::applicationFolder(settings, drives)}, call.value(studentOption), problems);
+    if (!learners.empty() && call.isSet(csvOption) && !writeCsv(call.value(csvOption), scoresAsCsv(learners)))
+        problems.append(QStringLiteral("%1 cannot be written.").arg(call.value(csvOption)));
+    if (!learners.empty() && call.isSet(pdfOption)) {
         platform::setUpLook();
-        if (!writePdf(call.parser.value(call.pdf), learners))
-            problems.append(QStringLiteral("%1 cannot be written.").arg(call.parser.value(call.pdf)));
+        if (!writePdf(call.value(pdfOption), learners))
+            problems.append(QStringLiteral("%1 cannot be written.").arg(call.value(pdfOption)));
     }
     for (const QString& problem : problems)
-        std::fprintf(stderr, "%s\n", qUtf8Printable(problem));
-    return problems.isEmpty() ? success : incomplete;
+        std::fprintf(stderr, "course export-scores: %s\n", qUtf8Printable(problem));
+    return problems.isEmpty() ? exitFine : exitFindings;
 }
 
 }  // namespace tools

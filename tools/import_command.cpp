@@ -2,11 +2,12 @@
 
 #include "core/startup.h"
 #include "platform/settings.h"
+#include "tools/command_line.h"
 #include "tools/import_isolated.h"
 #include "tools/import_jet.h"
 #include "tools/import_run.h"
+#include "tools/unfinished_file.h"
 
-#include <QCommandLineParser>
 #include <QFileInfo>
 
 #include <unistd.h>
@@ -17,9 +18,6 @@ namespace tools {
 
 namespace {
 
-constexpr int success = 0;
-constexpr int incomplete = 1;
-constexpr int wrongCall = 2;
 constexpr int lineWidth = 78;
 
 /// A line on a terminal that the next one replaces; nothing where the output goes elsewhere.
@@ -31,32 +29,28 @@ void showProgress(const QString& line) {
     std::fflush(stderr);
 }
 
-struct Call {
-    QCommandLineParser parser;
-    QCommandLineOption root{QStringLiteral("root"), QStringLiteral("Folder that plays the drives."),
-                            QStringLiteral("folder")};
-    QCommandLineOption dryRun{QStringLiteral("dry-run"),
-                              QStringLiteral("Read and prove everything, write nothing.")};
-    QCommandLineOption salvage{QStringLiteral("salvage"),
-                               QStringLiteral("Keep what could be read of a damaged file.")};
-    QCommandLineOption codePage{
-        QStringLiteral("code-page"),
-        QStringLiteral("Code page of the texts of Access 97 files, where it is not told rightly."),
-        QStringLiteral("number"), QStringLiteral("0")};
+const QCommandLineOption rootOption(QStringLiteral("root"), QStringLiteral("Folder that plays the drives."),
+                                    QStringLiteral("folder"));
+const QCommandLineOption dryRunOption(QStringLiteral("dry-run"),
+                                      QStringLiteral("Read and prove everything, write nothing."));
+const QCommandLineOption salvageOption(QStringLiteral("salvage"),
+                                       QStringLiteral("Keep what could be read of a damaged file."));
+const QCommandLineOption codePageOption(
+    QStringLiteral("code-page"),
+    QStringLiteral("Code page of the texts of Access 97 files, where it is not told rightly."),
+    QStringLiteral("number"), QStringLiteral("0"));
 
-    Call() {
-        parser.setApplicationDescription(
-            QStringLiteral("Brings an existing install over from its Access files."));
-        parser.addHelpOption();
-        parser.addPositionalArgument(QStringLiteral("FROM"),
-                                     QStringLiteral("Folder of the existing install."));
-        parser.addOptions({root, dryRun, salvage, codePage});
-    }
-};
+void addOptions(QCommandLineParser& parser) {
+    parser.addOptions({rootOption, dryRunOption, salvageOption, codePageOption});
+    parser.addPositionalArgument(QStringLiteral("FROM"),
+                                 QStringLiteral("Folder of the existing install, one drive, or one store."));
+}
 
-int refuse(const QString& sentence) {
-    std::fprintf(stderr, "course import: %s\n", qUtf8Printable(sentence));
-    return wrongCall;
+/// The pages that texts can be read in; 0 leaves the choice to the file.
+bool isCodePage(const QString& text, int& page) {
+    bool number = false;
+    page = text.toInt(&number);
+    return number && page >= 0 && page <= 65535;
 }
 
 }  // namespace
@@ -66,38 +60,38 @@ int runImport(const QStringList& args) {
 }
 
 int runImport(const QStringList& args, const InstallCheck& check) {
-    Call call;
-    if (!call.parser.parse(QStringList{QStringLiteral("course import")} + args))
-        return refuse(call.parser.errorText());
-    if (call.parser.isSet(QStringLiteral("help"))) {
-        QString help = call.parser.helpText();
-        help.replace(0, help.indexOf(u'\n'), QStringLiteral("Usage: course import FROM [options]"));
-        std::printf("%s", qUtf8Printable(help));
-        return success;
-    }
-    if (call.parser.positionalArguments().size() != 1)
-        return refuse(QStringLiteral("one folder to import from is needed."));
+    CommandLine line(
+        QStringLiteral("course import"),
+        QStringLiteral("Brings an existing install over from its Access files, proves each table "
+                       "and checks the course. Ends with 0 when everything came over whole and the "
+                       "check finds nothing."));
+    addOptions(line.parser());
+    if (const auto status = line.parse(args))
+        return *status;
+    const QCommandLineParser& call = line.parser();
+    if (call.positionalArguments().size() != 1)
+        return line.wrongCall(QStringLiteral("it wants one folder to import from."));
     ImportOptions options;
-    options.from = call.parser.positionalArguments().first();
-    options.root = call.parser.isSet(call.root) ? call.parser.value(call.root)
-                                                : core::drivesRoot(platform::UserSettings());
-    options.dryRun = call.parser.isSet(call.dryRun);
-    options.salvage = call.parser.isSet(call.salvage);
-    bool number = false;
-    options.codePage = call.parser.value(call.codePage).toInt(&number);
-    if (!number || options.codePage < 0)
-        return refuse(QStringLiteral("'%1' is no code page.").arg(call.parser.value(call.codePage)));
+    options.from = call.positionalArguments().first();
+    options.root =
+        call.isSet(rootOption) ? call.value(rootOption) : core::drivesRoot(platform::UserSettings());
+    options.dryRun = call.isSet(dryRunOption);
+    options.salvage = call.isSet(salvageOption);
+    if (!isCodePage(call.value(codePageOption), options.codePage))
+        return line.wrongCall(QStringLiteral("'%1' is no code page.").arg(call.value(codePageOption)));
     if (!QFileInfo::exists(options.from))
-        return refuse(QStringLiteral("there is no '%1'.").arg(options.from));
+        return line.wrongCall(QStringLiteral("there is no %1.").arg(options.from));
 
+    removeUnfinishedOnInterrupt();
     QTextStream out(stdout);
-    const bool whole = Importer(options, isolatedMaker(openJetFile), out, showProgress).run();
-    int checked = success;
-    if (check && !options.dryRun) {
+    Importer importer(options, isolatedMaker(openJetFile), out, showProgress);
+    const bool whole = importer.run();
+    int checked = exitFine;
+    if (check && importer.wrote()) {
         out << QStringLiteral("\nChecking the course in %1\n").arg(options.root) << Qt::flush;
         checked = check(options.root);
     }
-    return whole ? checked : incomplete;
+    return whole ? checked : exitFindings;
 }
 
 }  // namespace tools

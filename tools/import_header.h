@@ -16,6 +16,7 @@ struct AccessHeader {
 
     /// "Access 97", "Access 2000", "Access 2007" …
     const char* formatName() const;
+    int pageSize() const { return version == 0 ? 2048 : 4096; }
     /// True where texts are in a code page and not in Unicode.
     bool codePageTexts() const { return version == 0; }
     /// True where pages are enciphered with a key that only the password gives.

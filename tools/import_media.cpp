@@ -1,6 +1,8 @@
 #include "tools/import_media.h"
 
 #include "platform/drives.h"
+#include "tools/replace_store.h"
+#include "tools/unfinished_file.h"
 
 #include <QCryptographicHash>
 #include <QDir>
@@ -39,32 +41,37 @@ void flushToDisk(const QString& path) {
 
 }  // namespace
 
-QString moveIntoPlace(const QString& finished, const QString& place) {
+QString moveFile(const QString& finished, const QString& place) {
     flushToDisk(finished);
-    if (std::rename(QFile::encodeName(finished).constData(), QFile::encodeName(place).constData()) != 0) {
-        QFile::remove(finished);
+    if (std::rename(QFile::encodeName(finished).constData(), QFile::encodeName(place).constData()) != 0)
         return QStringLiteral("%1 cannot be written").arg(place);
+    flushToDisk(QFileInfo(place).path());
+    return {};
+}
+
+QString moveStore(const QString& finished, const QString& place) {
+    flushToDisk(finished);
+    try {
+        moveIntoPlace(finished, place);
+    } catch (const std::runtime_error& failure) {
+        const QString sentence = QString::fromUtf8(failure.what());
+        return sentence.endsWith(u'.') ? sentence.chopped(1) : sentence;
     }
     flushToDisk(QFileInfo(place).path());
     return {};
 }
 
-QString copyWhole(const QString& from, const QString& to) {
+QString copyWhole(const QString& from, const QString& to, FileMover mover) {
     const QString folder = QFileInfo(to).path();
     if (!QDir().mkpath(folder))
         return QStringLiteral("the folder %1 cannot be made").arg(folder);
-    const QString half = to + QStringLiteral(".new");
-    QFile::remove(half);
-    if (!QFile::copy(from, half)) {
-        QFile::remove(half);
+    const UnfinishedFile half(to + QStringLiteral(".new"));
+    if (!QFile::copy(from, half.name()))
         return QStringLiteral("it cannot be copied to %1").arg(to);
-    }
-    QFile::setPermissions(half, QFile::permissions(half) | QFile::WriteOwner);
-    if (!sameContent(from, half)) {
-        QFile::remove(half);
+    QFile::setPermissions(half.name(), QFile::permissions(half.name()) | QFile::WriteOwner);
+    if (!sameContent(from, half.name()))
         return QStringLiteral("the copy in %1 differs").arg(to);
-    }
-    return moveIntoPlace(half, to);
+    return mover(half.name(), to);
 }
 
 MediaReport copyMedia(const std::vector<FoundMedia>& media, const platform::Drives& drives, bool dryRun,

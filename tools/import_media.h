@@ -21,11 +21,16 @@ struct MediaReport {
 MediaReport copyMedia(const std::vector<FoundMedia>& media, const platform::Drives& drives, bool dryRun,
                       const std::function<void(qint64 done, qint64 total)>& progress);
 
-/// Copies a file beside its place and moves it there once it is proven and on the disk. Gives an empty text,
-/// or why it cannot be done.
-QString copyWhole(const QString& from, const QString& to);
+/// Moves a finished file to its place. Gives an empty text, or why it cannot be done.
+using FileMover = QString (*)(const QString& finished, const QString& place);
 
-/// Moves a finished file to its place, so that after a power cut the old one or the new one is there.
-QString moveIntoPlace(const QString& finished, const QString& place);
+/// So that after a power cut the old file or the new one is there.
+QString moveFile(const QString& finished, const QString& place);
+/// The same for a store, which a program may have open.
+QString moveStore(const QString& finished, const QString& place);
+
+/// Copies a file beside its place and has it moved there once it is proven and on the disk. Gives an empty
+/// text, or why it cannot be done.
+QString copyWhole(const QString& from, const QString& to, FileMover mover = moveFile);
 
 }  // namespace tools

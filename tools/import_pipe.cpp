@@ -74,7 +74,7 @@ void limitWorker() {
     const int nothing = open("/dev/null", O_RDWR | O_CLOEXEC);
     for (const int stream : {STDIN_FILENO, STDOUT_FILENO, STDERR_FILENO})
         dup2(nothing, stream);
-    for (const int fatal : {SIGSEGV, SIGBUS, SIGABRT, SIGFPE, SIGILL})
+    for (const int fatal : {SIGSEGV, SIGBUS, SIGABRT, SIGFPE, SIGILL, SIGINT, SIGTERM, SIGHUP})
         std::signal(fatal, SIG_DFL);
 }
 

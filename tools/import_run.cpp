@@ -5,6 +5,7 @@
 #include "tools/import_media.h"
 #include "tools/import_report.h"
 #include "tools/import_scores.h"
+#include "tools/unfinished_file.h"
 
 #include <SQLiteCpp/Backup.h>
 
@@ -28,19 +29,6 @@ QString formatOf(const QString& file) {
     return header ? QLatin1String(header->formatName()) : QStringLiteral("unknown format");
 }
 
-/// A file that goes away again unless it was moved to its place.
-class UnfinishedFile {
-   public:
-    explicit UnfinishedFile(QString name) : name_(std::move(name)) { QFile::remove(name_); }
-    ~UnfinishedFile() { QFile::remove(name_); }
-    UnfinishedFile(const UnfinishedFile&) = delete;
-    UnfinishedFile& operator=(const UnfinishedFile&) = delete;
-    const QString& name() const { return name_; }
-
-   private:
-    QString name_;
-};
-
 }  // namespace
 
 Importer::Importer(ImportOptions options, ReaderMaker maker, QTextStream& out,
@@ -54,11 +42,16 @@ Importer::Importer(ImportOptions options, ReaderMaker maker, QTextStream& out,
 bool Importer::run() {
     const FoundInstall install = findInstall(options_.from);
     if (install.stores.empty()) {
-        tell(QStringLiteral(
-                 "%1 holds no store of the course: no tovalin.mdb, Tovalin_Data.mdb, DbScore_….mdb or other. "
-                 "Give the folder that holds the drives, one drive, or the program's folder; an image of a "
-                 "drive has to be mounted first.")
-                 .arg(options_.from));
+        const bool isFile = QFileInfo(options_.from).isFile();
+        tell(
+            (isFile
+                 ? QStringLiteral("%1 is no store of the course by its name, which would be tovalin.mdb, "
+                                  "Tovalin_Data.mdb, DbScore_….mdb or another; an image of a drive has to be "
+                                  "mounted first.")
+                 : QStringLiteral("%1 holds no store of the course: no tovalin.mdb, Tovalin_Data.mdb, "
+                                  "DbScore_….mdb or other; give the folder that holds the drives, one drive, "
+                                  "or the program's folder."))
+                .arg(options_.from));
         printEnd(install);
         return false;
     }
@@ -106,10 +99,24 @@ void Importer::importStore(const FoundStore& store) {
     printHead(store, store.targets.join(QStringLiteral(", ")));
     if (!mayReplace(store))
         return;
+    noteCutFile(store);
     if (store.schemaStore == QStringLiteral("DbScore") && QFileInfo::exists(target))
         merge(store, target);
     else
         writeNew(store, target);
+}
+
+/// Rows may be whole all the same, since a file's last page is often a free one.
+void Importer::noteCutFile(const FoundStore& store) {
+    QFile file(store.file);
+    const auto header =
+        file.open(QIODevice::ReadOnly) ? parseAccessHeader(file.read(headerBytes)) : std::nullopt;
+    if (header && file.size() % header->pageSize() != 0)
+        notes_.append(
+            QStringLiteral("%1: the file ends inside its page %2, so that it was cut off; the table "
+                           "above tells what came over.")
+                .arg(store.shownName)
+                .arg(file.size() / header->pageSize()));
 }
 
 CopyReport Importer::copyInto(SQLite::Database& store, const FoundStore& source) {
@@ -145,6 +152,8 @@ void Importer::writeNew(const FoundStore& store, const QString& target) {
         written.exec("PRAGMA journal_mode=MEMORY; PRAGMA synchronous=OFF");
         report = copyInto(written, store);
     }
+    if (report.foreign)
+        return;
     if ((report.sound || options_.salvage) && verify(half.name(), store, report)) {
         place(store, half.name());
         return;
@@ -173,16 +182,22 @@ bool Importer::verify(const QString& file, const FoundStore& store, const CopyRe
 
 void Importer::place(const FoundStore& store, const QString& finished) {
     for (const QString& path : store.targets.mid(1))
-        if (const QString failure = copyWhole(finished, drives_.resolve(path)); !failure.isEmpty())
+        if (const QString failure = copyWhole(finished, drives_.resolve(path), moveStore); !failure.isEmpty())
             tell(QStringLiteral("%1: %2.").arg(store.shownName, failure));
     const QString first = drives_.resolve(store.targets.first());
-    if (const QString failure = moveIntoPlace(finished, first); !failure.isEmpty())
+    if (QFileInfo::exists(first))
+        notes_.append(QStringLiteral("%1 was there and was replaced by %2.").arg(first, store.shownName));
+    if (const QString failure = moveStore(finished, first); !failure.isEmpty())
         tell(QStringLiteral("%1: %2.").arg(store.shownName, failure));
+    else
+        wrote_ = true;
 }
 
 void Importer::merge(const FoundStore& store, const QString& target) {
     SQLite::Database copy(memoryStore.toStdString(), SQLite::OPEN_READWRITE | SQLite::OPEN_CREATE);
     const CopyReport report = copyInto(copy, store);
+    if (report.foreign)
+        return;
     if (!report.sound && !options_.salvage) {
         tell(QStringLiteral("%1: no score was brought over, since the table did not come over whole; "
                             "--salvage brings what "
@@ -197,6 +212,7 @@ void Importer::merge(const FoundStore& store, const QString& target) {
     if (options_.dryRun)
         SQLite::Backup(trial, inUse).executeStep();
     const ScoreMerge merged = mergeScores(copy, options_.dryRun ? trial : inUse);
+    wrote_ = wrote_ || !options_.dryRun;
     out_ << QStringLiteral("  joined with the scores in use: %1 new, %2 renewed, %3 kept, %4 alike\n")
                 .arg(merged.added)
                 .arg(merged.renewed)
@@ -214,6 +230,7 @@ void Importer::importMedia(const FoundInstall& install) {
             progress_(QStringLiteral("pictures, sounds and videos: %1 of %2").arg(done).arg(total));
         });
     problems_ += report.problems;
+    wrote_ = wrote_ || (report.copied > 0 && !options_.dryRun);
     out_ << QStringLiteral("\nPictures, sounds and videos: %1 copied, %2 there already, %3 bytes in all.\n")
                 .arg(report.copied)
                 .arg(report.present)

@@ -30,6 +30,8 @@ class Importer {
     bool run();
 
     const QStringList& problems() const { return problems_; }
+    /// True when a store, scores or media below the root were written.
+    bool wrote() const { return wrote_; }
 
    private:
     void importStore(const FoundStore& store);
@@ -40,6 +42,7 @@ class Importer {
     void merge(const FoundStore& store, const QString& target);
     void place(const FoundStore& store, const QString& finished);
     void importMedia(const FoundInstall& install);
+    void noteCutFile(const FoundStore& store);
     void tell(const QString& problem) { problems_.append(problem); }
     void printHead(const FoundStore& store, const QString& targets);
     void printProof(const CopyReport& report);
@@ -52,6 +55,7 @@ class Importer {
     platform::Drives drives_;
     QStringList problems_;
     QStringList notes_;
+    bool wrote_ = false;
 };
 
 }  // namespace tools

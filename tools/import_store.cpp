@@ -38,6 +38,7 @@ class TableCopy {
 
    private:
     void create();
+    bool hasColumn(const QString& name) const;
     void createIndexes();
     void copyRows();
     void copyRow(SQLite::Statement& insert, const SourceRow& row);
@@ -85,18 +86,23 @@ void TableCopy::create() {
     createIndexes();
 }
 
+bool TableCopy::hasColumn(const QString& name) const {
+    return std::any_of(table_.columns.begin(), table_.columns.end(), [&](const SourceColumn& column) {
+        return column.name.compare(name, Qt::CaseInsensitive) == 0;
+    });
+}
+
 /// Takes the statements of the schema, since both have the tables' names in them.
 void TableCopy::createIndexes() {
     if (!definition_)
         return;
     for (const core::FieldShape& field : definition_->fields) {
         const QString name = fromView(field.name);
-        if (std::none_of(table_.columns.begin(), table_.columns.end(), [&](const SourceColumn& c) {
-                return c.name.compare(name, Qt::CaseInsensitive) == 0;
-            })) {
-            tell(0, name, QStringLiteral("the course needs this column and the file lacks it"));
-            return;
-        }
+        // Fields that are only copied along by their place may have any name.
+        if (hasColumn(name) || name.startsWith(QStringLiteral("extra")))
+            continue;
+        tell(0, name, QStringLiteral("the course needs this column and the file lacks it"));
+        return;
     }
     const QStringList statements = core::createStatements(*definition_);
     for (const QString& statement : statements.mid(1))
@@ -264,12 +270,15 @@ CopyReport copyStore(AccessReader& reader, const StoreSource& source, SQLite::Da
     }
     const bool ours =
         std::any_of(report.tables.begin(), report.tables.end(), [](const TableProof& p) { return p.known; });
-    if (!ours && !source.schemaStore.isEmpty()) {
+    report.foreign = !ours && !source.schemaStore.isEmpty();
+    if (report.foreign) {
         report.problems.append(
-            QStringLiteral("%1 holds no table that the course uses.").arg(source.shownName));
+            QStringLiteral("%1: it holds no table that the course uses, and no store is made of it.")
+                .arg(source.shownName));
         report.sound = false;
+    } else {
+        createMissing(source, store, report);
     }
-    createMissing(source, store, report);
     transaction.commit();
     return report;
 }

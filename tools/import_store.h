@@ -34,7 +34,8 @@ struct CopyReport {
     std::vector<TableProof> tables;
     QStringList problems;  // each a sentence with file, table, row and column
     QStringList notes;
-    bool sound = true;  // every table that the course counts on came over whole
+    bool sound = true;     // every table that the course counts on came over whole
+    bool foreign = false;  // no table is one that the course counts on
 };
 
 /// Told after every table and now and then inside a long one.

@@ -2,11 +2,13 @@
 
 #include "core/startup.h"
 #include "platform/settings.h"
+#include "tools/command_line.h"
 #include "tools/install.h"
+#include "tools/unfinished_file.h"
 
-#include <QCommandLineParser>
 #include <QCoreApplication>
 #include <QDir>
+#include <QFileInfo>
 #include <QProcess>
 
 #include <unistd.h>
@@ -79,13 +81,19 @@ int main(int argc, char** argv) {
     const QCoreApplication app(argc, argv);
     QCoreApplication::setApplicationName(QStringLiteral("setup"));
     const Options options;
-    QCommandLineParser parser;
-    parser.setApplicationDescription(
+    tools::CommandLine line(
+        QStringLiteral("setup"),
         QStringLiteral("Makes a complete install of a course. Can be run again: scores are never touched."));
-    parser.addHelpOption();
+    QCommandLineParser& parser = line.parser();
     parser.addOptions({options.root, options.course, options.pictures, options.reports, options.userId,
                        options.name, options.teacher, options.guest, options.silent, options.noVideos});
-    parser.process(app);
+    if (const auto status = line.parse(QCoreApplication::arguments().mid(1)))
+        return *status;
+    if (!parser.positionalArguments().isEmpty())
+        return line.wrongCall(
+            QStringLiteral("'%1' belongs to no option.").arg(parser.positionalArguments().constFirst()));
+    if (!QFileInfo(parser.value(options.course)).isDir())
+        return line.wrongCall(QStringLiteral("there is no folder %1.").arg(parser.value(options.course)));
 
     const platform::UserSettings settings;
     const QString knownUser = settings.read(application, QStringLiteral("General Information"),
@@ -101,11 +109,10 @@ int main(int argc, char** argv) {
     plan.userId = newUser.isEmpty() ? knownUser : newUser;
     plan.speakWords = !parser.isSet(options.silent);
     plan.progress = showProgress;
-    if (plan.userId.contains(u'\'') || plan.userId.contains(u'/') || plan.userId.contains(u'\\')) {
-        std::fprintf(stderr, "A student number holds letters and digits, not '%s'.\n",
-                     qPrintable(plan.userId));
-        return 2;
-    }
+    if (plan.userId.contains(u'\'') || plan.userId.contains(u'/') || plan.userId.contains(u'\\'))
+        return line.wrongCall(
+            QStringLiteral("a student number holds letters and digits, not '%1'.").arg(plan.userId));
+    tools::removeUnfinishedOnInterrupt();
     try {
         tools::makeInstall(plan);
         if (!newUser.isEmpty())

@@ -3,9 +3,9 @@
 #include "core/schema.h"
 #include "platform/sql_value.h"
 #include "tools/replace_store.h"
+#include "tools/unfinished_file.h"
 
 #include <SQLiteCpp/SQLiteCpp.h>
-#include <QFile>
 
 namespace tools {
 
@@ -53,17 +53,15 @@ QByteArray storeMark() {
 }
 
 void writeStore(const QString& file, const QString& schemaStore, const std::vector<BuiltTable>& content) {
-    const QString half = file + QStringLiteral(".new");
-    QFile::remove(half);
+    const UnfinishedFile half(file + QStringLiteral(".new"));
     try {
-        writeTables(half, schemaStore, content);
+        writeTables(half.name(), schemaStore, content);
     } catch (const SQLite::Exception& failure) {
-        QFile::remove(half);
-        throw std::runtime_error(QStringLiteral("%1 cannot be written: %2")
+        throw std::runtime_error(QStringLiteral("%1 cannot be written: %2.")
                                      .arg(file, QString::fromUtf8(failure.what()))
                                      .toStdString());
     }
-    moveIntoPlace(half, file);
+    moveIntoPlace(half.name(), file);
 }
 
 }  // namespace tools

@@ -51,6 +51,7 @@ class ImportRun : public ::testing::Test {
             out, [](const QString&) {});
         const bool whole = importer.run();
         problems_ = importer.problems();
+        wrote_ = importer.wrote();
         return whole;
     }
 
@@ -77,6 +78,7 @@ class ImportRun : public ::testing::Test {
     std::map<QString, std::vector<FakeTable>> tables_;
     QString report_;
     QStringList problems_;
+    bool wrote_ = false;
 };
 
 const QString worksheetStore = QStringLiteral("C/Larkfield/Larkfield2013/Tovalin1/tovalin.mdb");
@@ -194,6 +196,43 @@ TEST_F(ImportRun, CopiesPicturesAndSoundsAndNoReportTemplates) {
     EXPECT_TRUE(report_.contains(QStringLiteral("0 copied, 2 there already")));
 }
 
+TEST_F(ImportRun, KnowsWhetherItWroteAnything) {
+    EXPECT_TRUE(import());
+    EXPECT_TRUE(wrote_);
+    EXPECT_TRUE(import(true));
+    EXPECT_FALSE(wrote_);
+}
+
+TEST_F(ImportRun, NeverMakesAStoreOfAFileWithoutATableOfTheCourse) {
+    tables_[QStringLiteral("tovalin.mdb")][0].shape.name = QStringLiteral("Customers");
+    EXPECT_FALSE(import());
+    EXPECT_EQ(problems_,
+              QStringList{QStringLiteral(
+                  "D/tovalin.mdb: it holds no table that the course uses, and no store is made of it.")});
+    EXPECT_FALSE(report_.contains(QStringLiteral("made empty")));
+    EXPECT_FALSE(import(false, true));
+    EXPECT_TRUE(filesUnder(root()).isEmpty());
+    EXPECT_FALSE(wrote_);
+}
+
+TEST_F(ImportRun, TellsAStoreThatItReplaces) {
+    EXPECT_TRUE(import());
+    EXPECT_FALSE(report_.contains(QStringLiteral("was replaced by")));
+    EXPECT_TRUE(import());
+    EXPECT_TRUE(report_.contains(
+        target(QStringLiteral("D/tovalin.mdb was there and was replaced by D/tovalin.mdb."))));
+}
+
+TEST_F(ImportRun, NotesAFileThatEndsInsideAPage) {
+    EXPECT_TRUE(import());
+    EXPECT_TRUE(report_.contains(QStringLiteral("D/tovalin.mdb: the file ends inside its page 0")))
+        << report_.toStdString();
+    QFile file(from_.filePath(QStringLiteral("D/tovalin.mdb")));
+    ASSERT_TRUE(file.resize(8192));
+    EXPECT_TRUE(import());
+    EXPECT_FALSE(report_.contains(QStringLiteral("ends inside")));
+}
+
 TEST_F(ImportRun, SaysWhatToGiveWhereNothingIsFound) {
     ImportOptions options;
     const QTemporaryDir empty;
@@ -213,20 +252,17 @@ TEST(ImportCommand, RefusesAWrongCall) {
     EXPECT_EQ(runImport({QStringLiteral("--help")}), 0);
 }
 
-TEST(ImportCommand, ChecksTheCourseBehindAnImport) {
+TEST(ImportCommand, ChecksNothingWhereNothingCameOver) {
     const QTemporaryDir from;
-    writeText(from.filePath(QStringLiteral("D/button/next1.jpg")), "picture");
+    writeText(from.filePath(QStringLiteral("D/tovalin.mdb")), "no database");
     const QTemporaryDir root;
-    QString checked;
-    const auto check = [&](const QString& folder) {
-        checked = folder;
+    bool checked = false;
+    const auto check = [&](const QString&) {
+        checked = true;
         return 0;
     };
     EXPECT_EQ(runImport({from.path(), QStringLiteral("--root"), root.path()}, check), 1);
-    EXPECT_EQ(checked, root.path());
-    checked.clear();
-    runImport({from.path(), QStringLiteral("--root"), root.path(), QStringLiteral("--dry-run")}, check);
-    EXPECT_TRUE(checked.isEmpty());
+    EXPECT_FALSE(checked);
 }
 
 }  // namespace

@@ -3,6 +3,8 @@
 
 #include "tests/tools/import_fake.h"
 
+#include "tools/check_install.h"
+#include "tools/import_command.h"
 #include "tools/import_isolated.h"
 #include "tools/import_jet.h"
 #include "tools/import_run.h"
@@ -291,10 +293,30 @@ TEST_F(AccessSamples, GoThroughTheWholeImport) {
     QTextStream out(&report);
     Importer importer(options, isolatedMaker(openJetFile), out, [](const QString&) {});
     EXPECT_TRUE(importer.run()) << report.toStdString();
+    EXPECT_TRUE(importer.wrote());
     for (const char* path :
          {"C/A_Mendori/Main/DbScore_1001.mdb", "C/Larkfield/Larkfield2013/Tovalin1/tovalin.mdb",
           "D/tovalin.mdb", "D/Tovalin_Data.mdb", "D/dicword_K.mdb"})
         EXPECT_TRUE(QFileInfo::exists(options.root + u'/' + QLatin1String(path))) << path;
+    // The tips' fields stand in another order there, which their readers do not mind.
+    for (const SourceError& damage : check::readInstall(options.root).damages)
+        ADD_FAILURE() << damage.what();
+}
+
+TEST_F(AccessSamples, AreCheckedBehindTheImport) {
+    const QString root = folder_.filePath(QStringLiteral("root"));
+    QString checked;
+    const auto check = [&](const QString& folder) {
+        checked = folder;
+        return 0;
+    };
+    const QString from = samples() + QStringLiteral("/mini-install");
+    testing::internal::CaptureStdout();
+    EXPECT_EQ(runImport({from, QStringLiteral("--root"), root, QStringLiteral("--dry-run")}, check), 0);
+    EXPECT_TRUE(checked.isEmpty());
+    EXPECT_EQ(runImport({from, QStringLiteral("--root"), root}, check), 0);
+    testing::internal::GetCapturedStdout();
+    EXPECT_EQ(checked, root);
 }
 
 }  // namespace

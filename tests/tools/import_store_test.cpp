@@ -170,6 +170,16 @@ TEST(StoreCopy, TellsAColumnThatTheCourseNeedsAndTheFileLacks) {
     EXPECT_FALSE(copy.report.sound);
 }
 
+TEST(StoreCopy, TakesFieldsThatAreOnlyCopiedByTheirPlaceUnderAnyName) {
+    FakeTable table;
+    table.shape.name = QStringLiteral("basic_Data");
+    for (const char* name : {"topicno", "recordno", "orderno", "word1", "word2", "word3", "memo1", "memo2"})
+        table.shape.columns.push_back({QLatin1String(name), SourceType::Text, 10});
+    Copy copy({table});
+    EXPECT_EQ(copy.report.problems, QStringList());
+    EXPECT_TRUE(copy.report.sound);
+}
+
 TEST(StoreCopy, FindsAValueThatTheStoreWouldHoldOtherwise) {
     FakeTable table = newWords();
     table.shape.columns[0].type = SourceType::Text;
@@ -198,8 +208,10 @@ TEST(StoreCopy, OfAFileWithoutAnyTableOfTheCourseIsNoStore) {
     table.shape.name = QStringLiteral("holidays");
     Copy copy({table});
     EXPECT_FALSE(copy.report.sound);
+    EXPECT_TRUE(copy.report.foreign);
     EXPECT_EQ(copy.report.problems,
-              QStringList{QStringLiteral("D/tovalin.mdb holds no table that the course uses.")});
+              QStringList{QStringLiteral(
+                  "D/tovalin.mdb: it holds no table that the course uses, and no store is made of it.")});
 }
 
 TEST(StoreCopy, SurvivesNamesThatNoStoreCanHave) {
