@@ -8,7 +8,9 @@
 #include <QPainter>
 #include <QPainterPath>
 #include <QStyleOptionFocusRect>
+#include <QtMath>
 
+#include <algorithm>
 #include <array>
 
 namespace platform {
@@ -76,7 +78,7 @@ QPainterPath markPath(BoxMark mark) {
     return path;
 }
 
-void paintBoxMark(QWidget& box, BoxMark mark, QRgb ground = colour::white) {
+void paintBoxMark(QWidget& box, BoxMark mark, bool underlined, QRgb ground = colour::white) {
     constexpr double signSpace = 24;
     const double scale = box.height() / signSpace;
     const bool wrong = mark == BoxMark::Wrong;
@@ -88,7 +90,7 @@ void paintBoxMark(QWidget& box, BoxMark mark, QRgb ground = colour::white) {
     painter.scale(scale, scale);
     painter.drawPath(markPath(mark));
     painter.resetTransform();
-    if (wrong)
+    if (wrong && underlined)
         painter.drawLine(QPointF(4, box.height() - 2.5), QPointF(box.width() - 4, box.height() - 2.5));
 }
 
@@ -194,7 +196,7 @@ void Label::paintEvent(QPaintEvent* event) {
         paintPanel(*this, panelFill_, panelBorder_);
     QLabel::paintEvent(event);
     if (mark_ != BoxMark::None)
-        paintBoxMark(*this, mark_);
+        paintBoxMark(*this, mark_, !text().isEmpty());
     if (hasFocus())
         paintFocusMark(*this);
 }
@@ -288,7 +290,7 @@ void TextBox::paintEvent(QPaintEvent* event) {
         painter.drawText(rect().marginsRemoved(textMargins()), Qt::AlignCenter, text());
     }
     if (mark_ != BoxMark::None)
-        paintBoxMark(*this, mark_, backColor());
+        paintBoxMark(*this, mark_, true, backColor());
     if (hasFocus())
         paintFocusMark(*this);
 }
@@ -298,6 +300,16 @@ StoryBox::StoryBox(QWidget* parent) : QPlainTextEdit(parent) {
     setFrameShape(QFrame::NoFrame);
     setContextMenuPolicy(Qt::NoContextMenu);
     setTabChangesFocus(true);
+}
+
+void StoryBox::resizeEvent(QResizeEvent* event) {
+    QPlainTextEdit::resizeEvent(event);
+    // The box ends where a line ends, so that none is cut through.
+    const int top = qRound(document()->documentMargin());
+    const int line = qCeil(QFontMetricsF(font()).height());
+    const int rest = std::max(0, height() - top) % std::max(1, line);
+    if (viewportMargins().bottom() != rest)
+        setViewportMargins(0, 0, 0, rest);
 }
 
 DropList::DropList(QWidget* parent) : QComboBox(parent) {

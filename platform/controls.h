@@ -110,6 +110,9 @@ class StoryBox : public QPlainTextEdit {
     explicit StoryBox(QWidget* parent);
     void setText(const QString& text) { setPlainText(text); }
     QString text() const { return toPlainText(); }
+
+   protected:
+    void resizeEvent(QResizeEvent* event) override;
 };
 
 /// A drop-down list. `onClick` runs when the learner picks an entry.

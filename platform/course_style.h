@@ -4,7 +4,8 @@
 
 namespace platform {
 
-/// The controls' style: Fusion, with the message boxes' marks drawn in the course's own hand.
+/// The controls' style: Fusion, with push buttons, boxes and scroll bars in the flat manner of the course's
+/// pictures, and with the course's own marks on message boxes.
 class CourseStyle final : public QProxyStyle {
     Q_OBJECT
    public:
@@ -12,6 +13,14 @@ class CourseStyle final : public QProxyStyle {
 
     QIcon standardIcon(StandardPixmap icon, const QStyleOption* option, const QWidget* widget) const override;
     int pixelMetric(PixelMetric metric, const QStyleOption* option, const QWidget* widget) const override;
+    int styleHint(StyleHint hint, const QStyleOption* option, const QWidget* widget,
+                  QStyleHintReturn* data) const override;
+    void drawPrimitive(PrimitiveElement element, const QStyleOption* option, QPainter* painter,
+                       const QWidget* widget) const override;
+    void drawComplexControl(ComplexControl control, const QStyleOptionComplex* option, QPainter* painter,
+                            const QWidget* widget) const override;
+    QRect subControlRect(ComplexControl control, const QStyleOptionComplex* option, SubControl part,
+                         const QWidget* widget) const override;
 };
 
 }  // namespace platform

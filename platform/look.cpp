@@ -56,7 +56,9 @@ void setUpLook() {
     palette.setColor(QPalette::Base, Qt::white);
     palette.setColor(QPalette::Text, Qt::black);
     palette.setColor(QPalette::WindowText, Qt::black);
-    palette.setColor(QPalette::ButtonText, Qt::black);
+    palette.setColor(QPalette::Button, QColor::fromRgb(colour::paper));
+    palette.setColor(QPalette::ButtonText, QColor::fromRgb(colour::accent));
+    palette.setColor(QPalette::Disabled, QPalette::ButtonText, QColor::fromRgb(0xffa3aeac));
     palette.setColor(QPalette::Highlight, QColor::fromRgb(colour::accent));
     palette.setColor(QPalette::HighlightedText, Qt::white);
     QApplication::setPalette(palette);

@@ -32,6 +32,9 @@ inline constexpr QRgb paper = 0xfffffefb;
 inline constexpr QRgb backdropTop = 0xffe3ebe9;
 inline constexpr QRgb backdropBottom = 0xffcfdcda;
 inline constexpr QRgb line = 0xffddd6c6;
+inline constexpr QRgb boxLine = 0xff8aa9a6;
+inline constexpr QRgb choice = 0xffe8f4f3;
+inline constexpr QRgb choiceLine = 0xff7fb0ae;
 }  // namespace colour
 
 /// The font of a role for a form drawn at the given scale.

@@ -53,8 +53,10 @@ void dressBox(QMessageBox& box) {
     // Where no window manager draws a border, the box must still stand out from the paper below.
     box.setStyleSheet(
         QStringLiteral("QMessageBox { border: 1px solid #8aa9a6; background: #fffefb; }"
-                       "QLabel#qt_msgbox_label { min-width: 420px; font-size: 15px; }"
-                       "QMessageBox QPushButton { min-width: 88px; padding: 6px 10px; }"));
+                       "QLabel#qt_msgbox_label { min-width: 420px; font-size: 15px; "
+                       "qproperty-alignment: 'AlignLeft | AlignVCenter'; }"
+                       "QMessageBox QPushButton { min-width: 88px; padding: 6px 10px; "
+                       "font-size: 13px; font-weight: bold; }"));
 }
 
 bool DesktopBoxes::show(const Message& message) {

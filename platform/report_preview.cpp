@@ -167,7 +167,7 @@ void ReportPreview::fitSheet() {
     const QSize room = area_->maximumViewportSize();
     const int full =
         room.width() - 2 * sheetMargin - (wide_ ? area_->verticalScrollBar()->sizeHint().width() : 0);
-    const int whole = qRound((room.height() - 2 * sheetMargin) / ratio);
+    const auto whole = static_cast<int>((room.height() - 2 * sheetMargin) / ratio);
     const int width = std::max(60, wide_ ? full : std::min(full, whole));
     sheet_->resize(width + 2 * sheetMargin, qRound(width * ratio) + 2 * sheetMargin);
 }

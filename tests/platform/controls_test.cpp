@@ -4,6 +4,8 @@
 #include "tests/support/desk.h"
 
 #include <QInputMethodEvent>
+#include <QScrollBar>
+#include <QtMath>
 
 #include <gtest/gtest.h>
 
@@ -224,6 +226,36 @@ TEST_F(ControlsTest, AButtonIsPressed) {
     support::click(button);
     EXPECT_EQ(clicks, 1);
     EXPECT_EQ(button.accessibleName(), "Go");
+}
+
+TEST(StoryBox, EndsWhereALineEnds) {
+    for (const int height : {174, 206, 222, 300}) {
+        Form form("frmTest", QSize(400, 300), nullptr);
+        platform::StoryBox& story = form.addStoryBox("txtStory", QRect(0, 0, 300, height));
+        story.setText(QString(QStringLiteral("line\n")).repeated(60));
+        form.show();
+        const int line = qCeil(QFontMetricsF(story.font()).height());
+        const int room = story.viewport()->height() - qRound(story.document()->documentMargin());
+        EXPECT_EQ(room % line, 0) << height;
+        EXPECT_GT(room, height - 2 * line) << height;
+    }
+}
+
+TEST(StoryBox, IsScrolledByTheHandleOfItsBar) {
+    Form form("frmTest", QSize(400, 300), nullptr);
+    platform::StoryBox& story = form.addStoryBox("txtStory", QRect(0, 0, 300, 200));
+    story.setText(QString(QStringLiteral("line\n")).repeated(60));
+    form.show();
+    QScrollBar* bar = story.verticalScrollBar();
+    ASSERT_TRUE(bar->isVisible());
+    QTest::mouseClick(bar, Qt::LeftButton, Qt::NoModifier, QPoint(bar->width() / 2, bar->height() - 4));
+    const int page = bar->value();
+    EXPECT_GT(page, 0) << "a click below the handle turns a page";
+    QTest::mousePress(bar, Qt::LeftButton, Qt::NoModifier,
+                      QPoint(bar->width() / 2, bar->height() * page / 60 + 10));
+    QTest::mouseMove(bar, QPoint(bar->width() / 2, bar->height() * 2));
+    QTest::mouseRelease(bar, Qt::LeftButton, Qt::NoModifier, QPoint(bar->width() / 2, bar->height() * 2));
+    EXPECT_EQ(bar->value(), bar->maximum());
 }
 
 TEST(KeyCode, KeysWithoutACodeHereGiveZero) {
