@@ -65,24 +65,24 @@ constexpr Column typed(const char* array, const char* heading, const char* judge
 }
 
 constexpr std::array rowChoices{
-    shows(ColumnKind::Text, "lblWord", questionHeading, "q1", 56, 318),
-    shows(ColumnKind::Choice, "lblWord2", selectHeading, "q2", 382, 140),
-    shows(ColumnKind::Choice, "lblWord3", selectHeading, "q3", 530, 140),
-    takes(ColumnKind::Answer, "lblWord4", 684, 132),
+    shows(ColumnKind::Text, "lblWord", questionHeading, "q1", 56, 326),
+    shows(ColumnKind::Choice, "lblWord2", selectHeading, "q2", 390, 142),
+    shows(ColumnKind::Choice, "lblWord3", selectHeading, "q3", 540, 142),
+    takes(ColumnKind::Answer, "lblWord4", 690, 138),
 };
 constexpr std::array pool{
-    shows(ColumnKind::Text, "lblWord", questionHeading, "q1", 56, 384),
-    takes(ColumnKind::Slot, "lblWord2", 448, 166),
-    shows(ColumnKind::Pool, "lblWord3", selectHeading, "a1", 664, 166),
+    shows(ColumnKind::Text, "lblWord", questionHeading, "q1", 56, 390),
+    takes(ColumnKind::Slot, "lblWord2", 454, 166),
+    shows(ColumnKind::Pool, "lblWord3", selectHeading, "a1", 662, 166),
 };
 constexpr std::array typedColumn{
-    shows(ColumnKind::Text, "lblWord", questionHeading, "q1", 56, 430),
-    typed("txtWord", answeredHeading, "a1", "a2", "blankno", 498, 310),
+    shows(ColumnKind::Text, "lblWord", questionHeading, "q1", 56, 450),
+    typed("txtWord", answeredHeading, "a1", "a2", "blankno", 518, 310),
 };
 constexpr std::array twoTypedColumns{
-    shows(ColumnKind::LowerText, "lblWord", questionHeading, "q1", 56, 272),
-    typed("txtWord", "Answered Word (1)", "a1", "q2", "blankno", 338, 220),
-    typed("txtWord2", "Answered Word (2)", "a2", "q3", "blankno2", 594, 220),
+    shows(ColumnKind::LowerText, "lblWord", questionHeading, "q1", 56, 290),
+    typed("txtWord", "Answered Word (1)", "a1", "q2", "blankno", 358, 227),
+    typed("txtWord2", "Answered Word (2)", "a2", "q3", "blankno2", 601, 227),
 };
 
 constexpr const char* wrongPicks =

@@ -7,8 +7,6 @@ using platform::TextRole;
 
 namespace {
 
-constexpr QRgb choiceFill = 0xffe8f4f3;
-constexpr QRgb choiceBorder = 0xff7fb0ae;
 constexpr int padding = 8;
 
 }  // namespace
@@ -27,11 +25,18 @@ void dress(Label& label, Look look) {
     label.setWordWrap(true);
     label.setAlignment(Qt::AlignCenter);
     if (look == Look::Choice)
-        label.setPanel(choiceFill, choiceBorder);
+        label.setPanel(platform::colour::choice, platform::colour::choiceLine);
     if (look == Look::Slot)
-        label.setPanel(platform::colour::white, platform::colour::line);
+        label.setPanel(platform::colour::white, platform::colour::boxLine);
     if (look == Look::Choice || look == Look::Slot)
         label.setContentsMargins(padding, 0, padding, 0);
+}
+
+void dress(platform::CommandButton& button) {
+    QPalette palette = button.palette();
+    palette.setColor(QPalette::Button, QColor::fromRgb(platform::colour::choice));
+    palette.setColor(QPalette::ButtonText, Qt::black);
+    button.setPalette(palette);
 }
 
 void makeClickable(Label& label) {

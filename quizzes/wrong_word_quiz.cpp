@@ -34,7 +34,7 @@ WrongWordQuiz::WrongWordQuiz(core::Context& context, const QuizEntry& entry) : Q
     addHeading("lblHeading(0)", QRect(68, 470, 366, 20), "Selected Word ");
     addHeading("lblHeading(1)", QRect(462, 470, 366, 20), "Answered Word ");
     lblWord3_ = &addSlot("lblWord3", QRect(68, 494, 366, 56), QStringLiteral("Selected word"));
-    txtWord_ = &addTextBox(QStringLiteral("txtWord"), QRect(462, 494, 366, 56), TextRole::Sentence);
+    txtWord_ = &addTextBox(QStringLiteral("txtWord"), QRect(462, 494, 366, 56), TextRole::Choice);
     txtWord_->setAccessibleName(QStringLiteral("Answered word"));
     txtWord_->onKeyDown = [this](int code) {
         if (code == platform::key::enter)
