@@ -28,7 +28,7 @@ constexpr std::array uncountableGrid{
     GridBlock{.count = 28, .lines = 7, .origin = {36, 414}, .pitch = {208, 40}, .box = {184, 30}}};
 
 constexpr std::array measureGrid{
-    GridBlock{.count = 24, .lines = 12, .origin = {424, 178}, .pitch = {218, 43}, .box = {200, 31}}};
+    GridBlock{.count = 24, .lines = 12, .origin = {424, 178}, .pitch = {218, 39}, .box = {200, 31}}};
 
 constexpr std::array articleGrid{
     GridBlock{.count = 15, .lines = 5, .origin = {36, 318}, .pitch = {273, 37}, .box = {262, 30}},
@@ -42,7 +42,7 @@ constexpr std::array articleTexts{FixedText{.name = "lblTopic4",
 constexpr QSize pronounPitch(270, 27);
 constexpr QSize pronounBox(150, 25);
 constexpr int pronounPrompt = 112;
-constexpr int pronounTop = 378;
+constexpr int pronounTop = 368;
 constexpr GridBlock pronounRows(int firstRow, int count, int perRow) {
     return {.count = count,
             .fill = Fill::Across,
@@ -55,7 +55,7 @@ constexpr GridBlock pronounRows(int firstRow, int count, int perRow) {
 constexpr std::array pronounGrid{pronounRows(0, 12, 3), pronounRows(4, 2, 2), pronounRows(5, 21, 3)};
 constexpr FixedText pronounHead(const char* name, int column, const char* text) {
     return {.name = name,
-            .place = {36 + pronounPrompt + column * pronounPitch.width(), 354, pronounBox.width(), 22},
+            .place = {36 + pronounPrompt + column * pronounPitch.width(), 344, pronounBox.width(), 22},
             .role = TextRole::Caption,
             .text = text,
             .centred = true};
@@ -161,7 +161,7 @@ constexpr DrillLayout uncountables{.headline = topHeadline,
                                    .grid = uncountableGrid};
 constexpr DrillLayout measures{.headline = topHeadline,
                                .instruction = topInstruction,
-                               .rules = {.origin = {36, 178}, .pitch = {368, 39}, .lines = 13},
+                               .rules = {.origin = {36, 174}, .pitch = {368, 39}, .lines = 13},
                                .grid = measureGrid};
 constexpr DrillLayout reading{.story = {60, 104, 690, 586}, .rules = noRules};
 constexpr DrillLayout articles{.headline = {36, 284, 808, 26},
@@ -171,8 +171,8 @@ constexpr DrillLayout articles{.headline = {36, 284, 808, 26},
                                .texts = articleTexts};
 constexpr DrillLayout pronouns{.headline = topHeadline,
                                .instruction = topInstruction,
-                               .story = {36, 168, 452, 178},
-                               .rules = {.origin = {508, 166}, .pitch = {340, 20}, .lines = 9},
+                               .story = {36, 166, 452, 174},
+                               .rules = {.origin = {508, 166}, .pitch = {340, 19}, .lines = 9},
                                .grid = pronounGrid,
                                .texts = pronounTexts};
 constexpr DrillLayout thirdPerson{.headline = topHeadline,
