@@ -63,6 +63,8 @@ void SpellingCoach::buildTexts() {
              QStringLiteral("Total No."));
     lblTotal_ =
         &addLabel(QStringLiteral("lblTotal"), QRect(course::sideLeft, 186, 104, 26), TextRole::Letter);
+    for (const char* counter : {"Label5", "lblNow", "Label3", "lblTotal"})
+        findChild<Label*>(QLatin1String(counter))->setAlignment(Qt::AlignCenter);
 }
 
 void SpellingCoach::buildEntry() {

@@ -19,7 +19,6 @@ constexpr int matchingSlot = 2;
 constexpr int pairsPerPage = 10;
 // From this many words on, a list is played on two pages.
 constexpr int twoPageWords = 14;
-constexpr QRgb tile = 0xfff1f7f6;
 
 const QString table = QStringLiteral("testword6");
 const QString allRows = QStringLiteral("Select * from testword6");
@@ -65,6 +64,8 @@ void WordMatching::buildTexts() {
         &addLabel(QStringLiteral("lblCurrent"), QRect(course::sideLeft, 122, 104, 26), TextRole::Letter);
     lblTotal_ =
         &addLabel(QStringLiteral("lblTotal"), QRect(course::sideLeft, 160, 104, 26), TextRole::Letter);
+    for (const char* counter : {"Label8", "lblCurrent", "lblTotal"})
+        findChild<Label*>(QLatin1String(counter))->setAlignment(Qt::AlignCenter);
     lblAnswer_ = &addLabel(QStringLiteral("lblAnswer"), QRect(378, 680, 440, 22), TextRole::Body);
     lblAnswer_->hide();
     const auto mark = [this](const char* name, const char* spoken, const QString& picture) {
@@ -81,7 +82,7 @@ void WordMatching::buildTexts() {
 
 void WordMatching::buildColumns() {
     const auto dress = [this](Label& label, int leftMargin) {
-        label.setBackColor(tile);
+        label.setPanel(platform::colour::choice, platform::colour::choiceLine);
         label.setContentsMargins(qRound(leftMargin * scale()), 0, qRound(8 * scale()), 0);
         label.setFocusPolicy(Qt::TabFocus);
         label.hide();

@@ -56,8 +56,12 @@ void WordQuiz::buildTexts() {
                                    "자동으로 다음 단어가 출제됩니다"));
     const auto counter = [this](const char* captionName, const char* caption, const char* name, int top) {
         addLabel(QLatin1String(captionName), QRect(course::sideLeft, top, 104, 20), TextRole::Caption,
-                 QLatin1String(caption));
-        return &addLabel(QLatin1String(name), QRect(course::sideLeft, top + 22, 104, 26), TextRole::Letter);
+                 QLatin1String(caption))
+            .setAlignment(Qt::AlignCenter);
+        Label& number =
+            addLabel(QLatin1String(name), QRect(course::sideLeft, top + 22, 104, 26), TextRole::Letter);
+        number.setAlignment(Qt::AlignCenter);
+        return &number;
     };
     lblNow_ = counter("Label2", "Current No.", "lblNow", 100);
     lblTotal_ = counter("Label3", "Total No.", "lblTotal", 164);
