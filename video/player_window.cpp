@@ -1,5 +1,6 @@
 #include "video/player_window.h"
 
+#include <QApplication>
 #include <QBoxLayout>
 #include <QKeyEvent>
 #include <QMouseEvent>
@@ -14,6 +15,7 @@ namespace {
 
 constexpr QSize playerSize(800, 600);
 constexpr QSize smallestSize(360, 280);
+constexpr int border = 1;
 constexpr int volumeSteps = 20;
 constexpr qint64 seekStep = 5000;
 
@@ -58,8 +60,12 @@ PlayerWindow::PlayerWindow(core::Context& context)
     web1_->onProgress = [this] { progressed(); };
     web1_->onDoubleClick = [this] { toggleFullWindow(); };
     auto* layout = new QVBoxLayout(this);
-    layout->setContentsMargins(0, 0, 0, 0);
+    // Without a window manager nothing else sets the player off from the screen below.
+    layout->setContentsMargins(border, border, border, border);
     layout->setSpacing(0);
+    QPalette palette = this->palette();
+    palette.setColor(QPalette::Window, QColor::fromRgb(platform::colour::boxLine));
+    setPalette(palette);
     layout->addWidget(web1_, 1);
     layout->addWidget(buildBar());
     progressed();
@@ -68,6 +74,8 @@ PlayerWindow::PlayerWindow(core::Context& context)
 
 QWidget* PlayerWindow::buildBar() {
     auto* bar = new QWidget(this);
+    bar->setPalette(QApplication::palette());
+    bar->setAutoFillBackground(true);
     auto* row = new QHBoxLayout(bar);
     row->setContentsMargins(12, 6, 12, 6);
     row->setSpacing(10);
@@ -163,9 +171,11 @@ void PlayerWindow::toggleFullWindow() {
     if (full_) {
         normalPlace_ = geometry();
         // Without a window manager a full-screen request changes nothing, so the size is set first.
+        layout()->setContentsMargins(0, 0, 0, 0);
         setGeometry(screen()->geometry());
         showFullScreen();
     } else {
+        layout()->setContentsMargins(border, border, border, border);
         showNormal();
         setGeometry(normalPlace_);
     }

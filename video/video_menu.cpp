@@ -12,9 +12,9 @@ namespace {
 
 constexpr int listLeft = 22;
 constexpr int focusMargin = 6;  // between a title and its focus mark
-constexpr int listTop = 124;
+constexpr int listTop = 123;
 constexpr int pitch = 23;
-constexpr QSize rowSize(280, 20);
+constexpr QSize rowSize(280, 22);
 
 QRect rowPlace(int row) {
     return {QPoint(listLeft, listTop + row * pitch), rowSize};
@@ -44,7 +44,7 @@ VideoMenu::VideoMenu(core::Context& context)
 void VideoMenu::buildHeader() {
     addBookTitle(QRect(24, 20, 300, 36), TextRole::Title);
     Label& guide = addLabel(
-        QStringLiteral("Label3"), QRect(342, 16, 520, 44), TextRole::Body,
+        QStringLiteral("Label3"), QRect(342, 16, 350, 44), TextRole::Body,
         QStringLiteral("아래에서 문법 타이틀을 클릭하면 해당 레슨의 설명과 함께 동영상 레슨으로 학습할 수 "
                        "있습니다."));
     guide.setWordWrap(true);

@@ -15,6 +15,7 @@ namespace {
 
 constexpr QSize menuSize(950, 700);
 constexpr int topicPitch = 23;
+constexpr int focusMargin = 6;
 constexpr int lessonColumns = 5;
 constexpr QSize lessonSize(100, 76);
 constexpr QSize lessonPitch(112, 92);
@@ -26,6 +27,13 @@ const QString templateFolder = core::worksheetFolder.chopped(1);
 
 QString fromView(std::string_view text) {
     return QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
+}
+
+void setGround(Label& lesson, QRgb fill, QRgb border) {
+    lesson.setBackColor(fill);
+    // The panel shows the colour, with round corners.
+    lesson.setAutoFillBackground(false);
+    lesson.setPanel(fill, border);
 }
 
 }  // namespace
@@ -61,7 +69,9 @@ void WorksheetMenu::buildHeader() {
 
 void WorksheetMenu::buildTopics() {
     for (int i = 0; i < topicCount; ++i) {
-        Label& topic = addLabel(lblTopic_, QRect(36, 124 + i * topicPitch, 268, 18), TextRole::Body);
+        Label& topic = addLabel(lblTopic_, QRect(30, 122 + i * topicPitch, 280, 22), TextRole::Body);
+        // The focus mark must not touch the text.
+        topic.setContentsMargins(qRound(focusMargin * scale()), 0, 0, 0);
         topic.setFocusPolicy(Qt::TabFocus);
         topic.onClick = [this, i] { topicClicked(i); };
     }
@@ -76,7 +86,6 @@ void WorksheetMenu::buildLessons() {
                            194 + i / lessonColumns * lessonPitch.height());
         Label& lesson = addLabel(lblLessonNo_, QRect(place, lessonSize), TextRole::Letter);
         lesson.setAlignment(Qt::AlignCenter);
-        lesson.setFrameStyle(QFrame::StyledPanel | QFrame::Plain);
         lesson.setFocusPolicy(Qt::TabFocus);
         lesson.onClick = [this, i] { lessonClicked(i); };
     }
@@ -102,7 +111,7 @@ void WorksheetMenu::load() {
 void WorksheetMenu::listLessons(int topicNo) {
     for (Label* lesson : lblLessonNo_) {
         lesson->hide();
-        lesson->setBackColor(platform::colour::white);
+        setGround(*lesson, platform::colour::white, platform::colour::choiceLine);
     }
     Recordset lessons = courseDb_.openRecordset(
         QStringLiteral("Select * from tablework where topicno=%1 order by recordno").arg(topicNo));
@@ -112,7 +121,7 @@ void WorksheetMenu::listLessons(int topicNo) {
         lesson.setCaption(isFinal ? QStringLiteral("F") : lessons.text(QStringLiteral("pageno")));
         lesson.show();
         if (lessons.textOrEmpty(QStringLiteral("usedata")) == QStringLiteral("NO"))
-            lesson.setBackColor(platform::colour::red);
+            setGround(lesson, platform::colour::red, platform::colour::red);
     }
 }
 
