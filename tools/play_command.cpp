@@ -82,6 +82,11 @@ int playRun(const InstallPlan& course, Manner manner, const StepRange& range) {
                                   : QStringLiteral("With a wrong answer first:\n"));
     const auto results = play::playCourse(
         plan.root, manner, [&](int record) { return record >= range.first && record <= range.last; }, tell);
+    if (results.empty())
+        throw std::runtime_error(QStringLiteral("no step of the course has a number of %1 to %2.")
+                                     .arg(range.first)
+                                     .arg(range.last)
+                                     .toStdString());
     int imperfect = 0;
     for (const PlayResult& result : results)
         imperfect += result.isPerfect() ? 0 : 1;

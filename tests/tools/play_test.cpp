@@ -1,6 +1,7 @@
 // Playing a course: right answers reach 100, wrong ones are refused, and a broken step is told.
 
 #include "tools/install.h"
+#include "tools/play_command.h"
 #include "tools/play_walk.h"
 
 #include <SQLiteCpp/SQLiteCpp.h>
@@ -55,6 +56,18 @@ TEST_F(PlayedCourse, AWrongAnswerFirstCostsWordsButNoStep) {
     for (const auto& result : results)
         EXPECT_TRUE(result.isPerfect()) << result.step.record << ' ' << result.trouble.toStdString();
     EXPECT_LT(results[0].words.toDouble(), 100);
+}
+
+TEST_F(PlayedCourse, AskedForStepsThatItDoesNotHaveItSaysSo) {
+    testing::internal::CaptureStdout();
+    testing::internal::CaptureStderr();
+    EXPECT_EQ(
+        runPlay({QStringLiteral("--steps"), QStringLiteral("900-901"), QStringLiteral("--pictures"),
+                 QStringLiteral(MENDORI_PICTURES), QStringLiteral(MENDORI_SOURCE "/docs/example-course")}),
+        1);
+    testing::internal::GetCapturedStdout();
+    EXPECT_EQ(testing::internal::GetCapturedStderr(),
+              "course play: no step of the course has a number of 900 to 901.\n");
 }
 
 TEST_F(PlayedCourse, AQuestionWithoutItsAnswerIsToldAndTheOthersArePlayed) {
