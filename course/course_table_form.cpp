@@ -117,7 +117,7 @@ void CourseTable::buildRows() {
     for (int i = 0; i < rowsPerPage; ++i) {
         const int y = 178 + i * pitch;
         Label& number = addLabel(lblRecordNo_, QRect(264, y, 52, lineHeight), TextRole::Body);
-        Label& title = addLabel(lblTitle_, QRect(322, y - 2, 214, pitch - 1), TextRole::Body);
+        Label& title = addLabel(lblTitle_, QRect(322, y - 1, 214, pitch - 1), TextRole::Body);
         title.setContentsMargins(qRound(focusMargin * scale()), 0, 0, 0);
         addLabel(lblLesson_, QRect(538, y, 192, lineHeight), TextRole::Body);
         addLabel(lblDate_, QRect(734, y, 84, lineHeight), TextRole::Body);
