@@ -3,8 +3,19 @@
 #include "app/screens.h"
 #include "core/startup.h"
 #include "core/turn.h"
+#include "course/table_ahead.h"
+
+#include <QTimer>
+
+#include <chrono>
 
 namespace app {
+
+namespace {
+
+constexpr std::chrono::milliseconds panelShown{1};
+
+}  // namespace
 
 Program::Program()
     : drives_(core::drivesRoot(settings_)),
@@ -22,8 +33,12 @@ Program::Program()
 }
 
 bool Program::start() {
-    return core::awaitTurn(turn_, drives_.resolve(context_.applicationFolder)) &&
-           core::StartUp(context_, frame_);
+    if (!core::awaitTurn(turn_, drives_.resolve(context_.applicationFolder)) ||
+        !core::StartUp(context_, frame_))
+        return false;
+    // The panel that stands first only waits.
+    QTimer::singleShot(panelShown, &frame_, [this] { course::readTableAhead(context_); });
+    return true;
 }
 
 }  // namespace app

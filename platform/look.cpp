@@ -3,6 +3,8 @@
 #include "platform/course_style.h"
 
 #include <QApplication>
+#include <QImage>
+#include <QPainter>
 #include <QPalette>
 #include <QStringList>
 
@@ -43,10 +45,20 @@ QFont roleFont(TextRole role, double scale) {
     return font;
 }
 
+void drawAhead(TextRole role, const QString& text) {
+    const QFont font = roleFont(role, 1.0);
+    // Of a window's own format, since each format has letters of its own.
+    QImage scratch(1, font.pixelSize(), QImage::Format_RGB32);
+    QPainter painter(&scratch);
+    painter.setFont(font);
+    painter.drawText(0, 0, text);
+}
+
 void setUpLook() {
     const QStringList families{QStringLiteral("NanumGothic"), QStringLiteral("Noto Sans CJK KR")};
     QFont::insertSubstitutions(koreanFamily(), families);
     QFont::insertSubstitutions(QStringLiteral("Tahoma"), families);
+    // The application takes the style over.
     QApplication::setStyle(new CourseStyle);
     QFont font(koreanFamily());
     font.setPixelSize(14);

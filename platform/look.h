@@ -40,6 +40,9 @@ inline constexpr QRgb choiceLine = 0xff7fb0ae;
 /// The font of a role for a form drawn at the given scale.
 QFont roleFont(TextRole role, double scale);
 
+/// Loads a role's font and the shapes of a text's letters before they are to be shown.
+void drawAhead(TextRole role, const QString& text);
+
 /// Makes the course's Korean font resolve to one family for Latin and Hangul on this machine, and gives the
 /// application its palette and style. Called once, before the first window.
 void setUpLook();
