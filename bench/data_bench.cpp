@@ -50,6 +50,7 @@ void SaveScorePlainSqlite(benchmark::State& state) {
     int score = 0;
     for (auto _ : state) {
         SQLite::Database store(file, SQLite::OPEN_READWRITE);
+        store.exec("PRAGMA synchronous=EXTRA");
         SQLite::Statement update(
             store,
             "update score set vDate='2026-03-14', vtitle='', s4=? where studentno='1001' and "
