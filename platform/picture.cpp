@@ -20,7 +20,7 @@ struct Kept {
 };
 
 // Small pictures are the hover images, loaded in bursts of six; large ones are shown once a screen.
-constexpr qint64 keptFileSize = 64 * 1024;
+constexpr qint64 keptFileSize = 64LL * 1024;
 
 QHash<QString, Kept>& kept() {
     static QHash<QString, Kept> pictures;

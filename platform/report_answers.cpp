@@ -24,6 +24,7 @@ QString joined(const std::vector<QString>& answers) {
 std::vector<QString> wordByWord(const QString& answer, int blanks) {
     const QStringList words = answer.split(u' ', Qt::SkipEmptyParts);
     std::vector<QString> spread;
+    spread.reserve(static_cast<std::size_t>(std::max(0, blanks)));
     for (int i = 0; i < blanks; ++i)
         spread.push_back(i + 1 < blanks ? words.value(i) : words.mid(i).join(u' '));
     return spread;

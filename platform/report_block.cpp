@@ -85,8 +85,9 @@ void addBank(ReportBlock& block, const ReportTemplate& report, const ReportData&
                 top + height / 2 + pointsOnPage(titleStyle.points) * 0.36, title, titleStyle);
     for (int i = 0; i < count; ++i) {
         const double cell = room / columns;
+        const int row = i / columns;
         const double middle = bankPadding + titleWidth + cell * (i % columns + 0.5);
-        const double baseLine = top + millimetres(1.8) + pitch * (i / columns + 0.68);
+        const double baseLine = top + millimetres(1.8) + pitch * (row + 0.68);
         addText(block, PieceRole::BankWord, middle - textWidth(words[i], style) / 2, baseLine, words[i],
                 style);
     }

@@ -29,6 +29,7 @@ const QString maskBox = QStringLiteral("□");
 std::vector<QString> filledTexts(const std::vector<ReportText>& texts, const ReportData& data,
                                  const ReportRow& row) {
     std::vector<QString> filled;
+    filled.reserve(texts.size());
     for (const ReportText& text : texts)
         filled.push_back(filledText(text, data, row));
     return filled;

@@ -105,10 +105,10 @@ void secondPosition(const Course& course, Findings& findings) {
              [&](const Step& step, const QuizShape& shape, const std::vector<const Question*>& questions) {
                  const int count = static_cast<int>(questions.size());
                  for (const char digit : shape.secondPair) {
-                     const auto here =
+                     const auto here = static_cast<int>(
                          std::count_if(questions.begin(), questions.end(), [&](const Question* question) {
                              return question->q[static_cast<std::size_t>(digit - '0')] == question->a2;
-                         });
+                         }));
                      if (count >= fewQuestions && here * 5 >= count * 4)
                          findings.add(questions.front()->at(questionField(digit - '0')),
                                       QStringLiteral("%1 of %2 second answers of %3 stand in this place")

@@ -8,6 +8,7 @@
 
 #include <array>
 #include <cerrno>
+#include <cstdint>
 
 namespace tools {
 
@@ -64,7 +65,8 @@ class Conversion {
     Conversion(const Conversion&) = delete;
     Conversion& operator=(const Conversion&) = delete;
 
-    bool known() const { return handle_ != reinterpret_cast<iconv_t>(-1); }
+    // The C library tells an unknown code page by a pointer of minus one.
+    bool known() const { return reinterpret_cast<std::intptr_t>(handle_) != -1; }
 
     /// Appends what can be converted from `place` on and moves behind it; false at an invalid byte.
     bool run(QByteArray& bytes, qsizetype& place, QString& text) {

@@ -93,7 +93,7 @@ int playRun(const InstallPlan& course, Manner manner, const StepRange& range) {
     print(QStringLiteral("%1 steps, %2 below 100 (%3 s)\n")
               .arg(results.size())
               .arg(imperfect)
-              .arg(timer.elapsed() / 1000.0, 0, 'f', 1));
+              .arg(static_cast<double>(timer.elapsed()) / 1000.0, 0, 'f', 1));
     return imperfect;
 }
 
