@@ -33,21 +33,16 @@ constexpr int layoutVersion = 1;
     throw std::runtime_error(sentence.toStdString());
 }
 
-struct Place {
-    const char* store;
-    const char* path;
-};
-
 // Content stores and where they lie below the root. The worksheets work in a copy of the course store.
 constexpr std::array contentStores{
-    Place{"tovalin.mdb", "D/tovalin.mdb"},
-    Place{"tovalin.mdb", "C/Larkfield/Larkfield2013/Tovalin1/tovalin.mdb"},
-    Place{"Tovalin_Data.mdb", "D/Tovalin_Data.mdb"},
-    Place{"testword_im.mdb", "D/testword_im.mdb"},
-    Place{"testword_2013.mdb", "D/testword_2013.mdb"},
-    Place{"dicword_K.mdb", "D/dicword_K.mdb"},
-    Place{"dicword.mdb", "C/A_Mendori/Main/dicword.mdb"},
-    Place{"Pversion_2026.mdb", "C/A_Mendori/Main/Pversion_2026.mdb"},
+    StorePlace{"tovalin.mdb", "D/tovalin.mdb"},
+    StorePlace{"tovalin.mdb", "C/Larkfield/Larkfield2013/Tovalin1/tovalin.mdb"},
+    StorePlace{"Tovalin_Data.mdb", "D/Tovalin_Data.mdb"},
+    StorePlace{"testword_im.mdb", "D/testword_im.mdb"},
+    StorePlace{"testword_2013.mdb", "D/testword_2013.mdb"},
+    StorePlace{"dicword_K.mdb", "D/dicword_K.mdb"},
+    StorePlace{"dicword.mdb", "C/A_Mendori/Main/dicword.mdb"},
+    StorePlace{"Pversion_2026.mdb", "C/A_Mendori/Main/Pversion_2026.mdb"},
 };
 
 class Installer {
@@ -175,7 +170,7 @@ class Installer {
         if (!current)
             beginRebuild(turn);
         int done = 0;
-        for (const Place& place : contentStores) {
+        for (const StorePlace& place : contentStores) {
             tell(QStringLiteral("stores"), ++done, static_cast<int>(contentStores.size()));
             const QString file = root_.filePath(QLatin1String(place.path));
             const bool exists = QFile::exists(file);
@@ -253,6 +248,10 @@ bool madeBySetup(const QString& storeFile) {
     if (platform::storeFormat(storeFile) != platform::StoreFormat::Store || !file.open(QIODevice::ReadOnly))
         return false;
     return file.seek(68) && file.read(4) == storeMark();
+}
+
+std::span<const StorePlace> storePlaces() {
+    return contentStores;
 }
 
 void makeInstall(const InstallPlan& plan) {

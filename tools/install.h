@@ -3,8 +3,18 @@
 #include <QString>
 
 #include <functional>
+#include <span>
 
 namespace tools {
+
+/// A content store, whose tables are those of its name, and its file below the root.
+struct StorePlace {
+    const char* store;
+    const char* path;
+};
+
+/// The content stores of every install.
+std::span<const StorePlace> storePlaces();
 
 /// What an install is made of and for whom.
 struct InstallPlan {

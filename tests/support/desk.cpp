@@ -4,6 +4,7 @@
 #include "platform/application.h"
 #include "platform/timer.h"
 #include "tests/support/ended_run.h"
+#include "tools/install.h"
 #include "tools/store_writer.h"
 #include "tools/wave.h"
 
@@ -14,29 +15,12 @@
 #include <QFileInfo>
 #include <QMouseEvent>
 
-#include <array>
 #include <chrono>
 #include <thread>
 
 namespace support {
 
 namespace {
-
-struct Place {
-    const char* store;
-    const char* path;
-};
-
-constexpr std::array stores{
-    Place{"tovalin.mdb", "D/tovalin.mdb"},
-    Place{"tovalin.mdb", "C/Larkfield/Larkfield2013/Tovalin1/tovalin.mdb"},
-    Place{"Tovalin_Data.mdb", "D/Tovalin_Data.mdb"},
-    Place{"testword_im.mdb", "D/testword_im.mdb"},
-    Place{"testword_2013.mdb", "D/testword_2013.mdb"},
-    Place{"dicword_K.mdb", "D/dicword_K.mdb"},
-    Place{"dicword.mdb", "C/A_Mendori/Main/dicword.mdb"},
-    Place{"Pversion_2026.mdb", "C/A_Mendori/Main/Pversion_2026.mdb"},
-};
 
 platform::Application& application() {
     return *static_cast<platform::Application*>(QCoreApplication::instance());
@@ -165,7 +149,7 @@ void Desk::makeStores() {
          {"C/A_Mendori/Main", "C/Larkfield/Larkfield2013/Tovalin1", "D/A_Mendori/ABCPicture",
           "D/A_Mendori/ABCSound", "D/A_Mendori/Mendori_Program/Tovalin1_Video", "E"})
         root.mkpath(QLatin1String(folder));
-    for (const Place& place : stores)
+    for (const tools::StorePlace& place : tools::storePlaces())
         tools::writeStore(root.filePath(QLatin1String(place.path)), QLatin1String(place.store), {});
     const QString pictures = QStringLiteral(MENDORI_PICTURES);
     QFile::link(pictures + QStringLiteral("/interface"), root.filePath(QStringLiteral("D/interface")));
