@@ -161,6 +161,21 @@ void backToTable(TourGuide& guide) {
     guide.await(QStringLiteral("frmTable"));
 }
 
+/// A step to look at: its unit, its row there, the screen that it opens and the picture's name.
+struct Stop {
+    int unit;
+    int row;
+    const char* screen;
+    const char* name;
+};
+
+void visitAll(TourGuide& guide, std::initializer_list<Stop> stops) {
+    for (const Stop& stop : stops) {
+        visit(guide, stop.unit, stop.row, QLatin1String(stop.screen), QLatin1String(stop.name));
+        backToTable(guide);
+    }
+}
+
 void seeTheQuizzes(TourGuide& guide) {
     visit(guide, 1, 2, QStringLiteral("frmQuiz"), QStringLiteral("quiz-pick-one-of-two"));
     guide.click(QStringLiteral("lblWord2"), 0);
@@ -168,39 +183,28 @@ void seeTheQuizzes(TourGuide& guide) {
     guide.click(QStringLiteral("picQuiz"));
     guide.picture(QStringLiteral("quiz-answers-in-red"));
     backToTable(guide);
-    struct Stop {
-        int unit;
-        int row;
-        const char* screen;
-        const char* name;
-    };
-    for (const Stop& stop :
-         {Stop{1, 4, "frmQuiz2", "quiz-typed-table"}, Stop{1, 7, "frmQuiz7", "quiz-click-the-word"},
-          Stop{1, 8, "frmQuiz11", "quiz-pool"}, Stop{1, 18, "frmQuiz4", "quiz-wrong-word"},
-          Stop{2, 3, "frmQuiz5", "quiz-article-buttons"}, Stop{3, 9, "frmQuiz9", "quiz-two-columns"},
-          Stop{3, 12, "frmQuiz12", "quiz-pool-without-sound"}, Stop{3, 13, "frmQuiz3", "quiz-two-picks"},
-          Stop{3, 15, "frmQuiz10", "quiz-words-into-gaps"}, Stop{3, 16, "frmQuiz8", "quiz-four-choices"},
-          Stop{11, 8, "frmQuiz6", "quiz-whole-sentence"}}) {
-        visit(guide, stop.unit, stop.row, QLatin1String(stop.screen), QLatin1String(stop.name));
-        backToTable(guide);
-    }
+    visitAll(guide, {{1, 4, "frmQuiz2", "quiz-typed-table"},
+                     {1, 7, "frmQuiz7", "quiz-click-the-word"},
+                     {1, 8, "frmQuiz11", "quiz-pool"},
+                     {1, 18, "frmQuiz4", "quiz-wrong-word"},
+                     {2, 3, "frmQuiz5", "quiz-article-buttons"},
+                     {3, 9, "frmQuiz9", "quiz-two-columns"},
+                     {3, 12, "frmQuiz12", "quiz-pool-without-sound"},
+                     {3, 13, "frmQuiz3", "quiz-two-picks"},
+                     {3, 15, "frmQuiz10", "quiz-words-into-gaps"},
+                     {3, 16, "frmQuiz8", "quiz-four-choices"},
+                     {11, 8, "frmQuiz6", "quiz-whole-sentence"}});
 }
 
 void seeTheOtherDrills(TourGuide& guide) {
-    struct Stop {
-        int unit;
-        int row;
-        const char* screen;
-        const char* name;
-    };
-    for (const Stop& stop :
-         {Stop{1, 15, "frmLesson2", "drill-set"}, Stop{2, 1, "frmLesson3_2", "drill-cloze"},
-          Stop{3, 1, "frmLesson4", "drill-pronouns"}, Stop{6, 1, "frmLesson24", "drill-numbers"},
-          Stop{8, 1, "frmLesson9", "drill-adjectives"}, Stop{11, 1, "frmLesson11", "drill-comparison"},
-          Stop{16, 1, "frmLesson8", "drill-ing-forms"}, Stop{17, 1, "frmLesson17", "drill-prepositions"}}) {
-        visit(guide, stop.unit, stop.row, QLatin1String(stop.screen), QLatin1String(stop.name));
-        backToTable(guide);
-    }
+    visitAll(guide, {{1, 15, "frmLesson2", "drill-set"},
+                     {2, 1, "frmLesson3_2", "drill-cloze"},
+                     {3, 1, "frmLesson4", "drill-pronouns"},
+                     {6, 1, "frmLesson24", "drill-numbers"},
+                     {8, 1, "frmLesson9", "drill-adjectives"},
+                     {11, 1, "frmLesson11", "drill-comparison"},
+                     {16, 1, "frmLesson8", "drill-ing-forms"},
+                     {17, 1, "frmLesson17", "drill-prepositions"}});
 }
 
 void seeVideosAndSheets(TourGuide& guide) {
