@@ -115,10 +115,10 @@ TEST_F(ExportScores, CallTheLearnerByTheLatestName) {
 }
 
 TEST_F(ExportScores, SendAGenuineAccessFileToTheImport) {
-    QFile stub(desk_.file(QStringLiteral("C:\\A_Mendori\\Main\\DbScore_7.mdb")));
-    ASSERT_TRUE(stub.open(QIODevice::WriteOnly));
-    stub.write(QByteArrayLiteral("\x00\x01\x00\x00Standard Jet DB\x00") + QByteArray(100, '\0'));
-    stub.close();
+    QFile foreign(desk_.file(QStringLiteral("C:\\A_Mendori\\Main\\DbScore_7.mdb")));
+    ASSERT_TRUE(foreign.open(QIODevice::WriteOnly));
+    foreign.write(QByteArrayLiteral("\x00\x01\x00\x00Standard Jet DB\x00") + QByteArray(100, '\0'));
+    foreign.close();
     addScore(firstStep);
     EXPECT_EQ(read().size(), 1U);
     ASSERT_EQ(problems_.size(), 1);
