@@ -105,6 +105,7 @@ std::vector<AskedQuestion> askedQuestions(const Stage& stage) {
                        std::to_string(stage.session().topicNo) +
                        " AND recordno=" + std::to_string(stage.session().recordNo) + " ORDER BY orderno");
     std::vector<AskedQuestion> questions;
+    questions.reserve(rows.size());
     for (const QStringList& row : rows)
         questions.push_back({row.mid(0, 8), row[8], row[9]});
     return questions;
