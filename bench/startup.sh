@@ -4,7 +4,7 @@
 set -eu
 bin=$1
 export MENDORI_ROOT=$2
-runs=${3:-15}
+runs=${3:-21}
 screen=$(mktemp)
 cat >"$screen" <<'JSON'
 {"synchronousWindowSystemEvents": true, "windowFrameMargins": false, "screens": [{"name": "bench", "x": 0, "y": 0,
