@@ -21,18 +21,21 @@ struct AuthoredTable {
     const char* table;
     const char* store;
     const char* needed;
+    const char* authorsField = "";  // kept for the check, and in no store
 };
+
+constexpr const char* pointField = "point";
 
 constexpr std::array authoredTables{
     AuthoredTable{"topic", "tovalin.mdb", "topicno Title"},
     AuthoredTable{"tablework", "tovalin.mdb", "recordno Type Title Data useform"},
     AuthoredTable{"newword", "tovalin.mdb", "recordno word korean"},
-    AuthoredTable{"gram_tip2", "tovalin.mdb", "recordno tip2"},
+    AuthoredTable{"gram_tip2", "tovalin.mdb", "recordno tip2", pointField},
     AuthoredTable{"basic_data3", "tovalin.mdb", "recordno word1 vtitle"},
     AuthoredTable{"tablework_final_data", "tovalin.mdb", "recordno recordno2"},
-    AuthoredTable{"tovalin1_quiz_data", "Tovalin_Data.mdb", "recordno q1 a1"},
-    AuthoredTable{"tovalin1_basic_data", "Tovalin_Data.mdb", "recordno word1"},
-    AuthoredTable{"tovalin1_gram_tip", "Tovalin_Data.mdb", "recordno tips"},
+    AuthoredTable{"tovalin1_quiz_data", "Tovalin_Data.mdb", "recordno q1 a1", pointField},
+    AuthoredTable{"tovalin1_basic_data", "Tovalin_Data.mdb", "recordno word1", pointField},
+    AuthoredTable{"tovalin1_gram_tip", "Tovalin_Data.mdb", "recordno tips", pointField},
     AuthoredTable{"tovalin1_basicdata_115", "Tovalin_Data.mdb", "word"},
 };
 
@@ -226,12 +229,15 @@ void BuiltCourse::add(const CourseSource& source, const QString& store, const QS
 }
 
 /// A spreadsheet writes columns without a name where a cell beside the table was touched; they may be empty.
-void BuiltCourse::checkColumns(const BuiltTable& built, const TableFile& table) {
+void BuiltCourse::checkColumns(const BuiltTable& built, const QString& authorsField, const TableFile& table) {
+    QStringList known = built.fields;
+    if (!authorsField.isEmpty())
+        known.append(authorsField);
     for (qsizetype i = 0; i < table.columns.size(); ++i) {
-        if (!table.columns[i].isEmpty() && built.column(table.columns[i]) < 0)
+        if (!table.columns[i].isEmpty() && !known.contains(table.columns[i], Qt::CaseInsensitive))
             complain(damages_, {{table.file, 1, table.columns[i]},
                                 QStringLiteral("the table has no field of this name"),
-                                QStringLiteral("one of %1").arg(built.fields.join(QStringLiteral(", ")))});
+                                QStringLiteral("one of %1").arg(known.join(QStringLiteral(", ")))});
         const auto filled = std::find_if(table.rows.begin(), table.rows.end(),
                                          [&](const TableRow& row) { return !row.fields[i].isEmpty(); });
         if (table.columns[i].isEmpty() && filled != table.rows.end())
@@ -245,14 +251,18 @@ void BuiltCourse::checkColumns(const BuiltTable& built, const TableFile& table) 
 
 void BuiltCourse::addRows(BuiltTable& built, const CourseSource::UnitTable& unit) {
     const TableFile& table = unit.table;
-    checkColumns(built, table);
+    const QString authorsField = QLatin1String(findAuthored(built.table)->authorsField);
+    checkColumns(built, authorsField, table);
     const auto* definition = core::findTable(built.store.toStdString(), built.table.toStdString());
     std::vector<int> columns;
     for (const QString& field : built.fields)
         columns.push_back(table.column(field));
     const int topic = built.column(QStringLiteral("topicno"));
+    const int points = authorsField.isEmpty() ? -1 : table.column(authorsField);
     for (const TableRow& row : table.rows) {
         BuiltRow builtRow{{}, table.place(row)};
+        if (points >= 0)
+            builtRow.points = row.fields[points].split(u' ', Qt::SkipEmptyParts);
         for (std::size_t i = 0; i < columns.size(); ++i) {
             const QString text = columns[i] < 0 ? QString() : row.fields[columns[i]];
             const SourcePlace place = table.place(row, built.fields[static_cast<qsizetype>(i)]);

@@ -31,6 +31,7 @@ CourseSource readCourse(const QString& folder, Damages* damages = nullptr);
 struct BuiltRow {
     std::vector<platform::Value> values;  // in the order of the table's fields
     SourcePlace place;
+    QStringList points{};  // what the row trains or teaches, for the check alone
 };
 
 struct BuiltTable {
@@ -57,7 +58,7 @@ class BuiltCourse {
 
    private:
     void add(const CourseSource& source, const QString& store, const QString& table);
-    void checkColumns(const BuiltTable& built, const TableFile& table);
+    void checkColumns(const BuiltTable& built, const QString& authorsField, const TableFile& table);
     void addRows(BuiltTable& built, const CourseSource::UnitTable& unit);
     void fillCounts();
     void addDictionary();

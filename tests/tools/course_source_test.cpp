@@ -96,6 +96,25 @@ TEST_F(CourseFolder, WithoutAnyTableIsNone) {
     EXPECT_THROW(readCourse(empty.path(), &damages), SourceError);
 }
 
+TEST_F(CourseFolder, KeepsThePointsOfItsRowsBesideTheFieldsOfTheStore) {
+    write("unit01/tovalin1_quiz_data.csv", "recordno,q1,a1,point\n1,x,a,plural-es\n1,y,b,\n");
+    write("unit01/tovalin1_gram_tip.csv", "recordno,autono,tips,point\n1,1,복수형,plural-s  plural-es\n");
+    EXPECT_EQ(wrong(), QStringList());
+    const BuiltCourse built(readCourse(folder_.path()));
+    const BuiltTable& questions = built.table(QStringLiteral("tovalin1_quiz_data"));
+    EXPECT_LT(questions.column(QStringLiteral("point")), 0);
+    EXPECT_EQ(questions.rows[0].points, QStringList{QStringLiteral("plural-es")});
+    EXPECT_EQ(questions.rows[0].values.size(), static_cast<std::size_t>(questions.fields.size()));
+    EXPECT_TRUE(questions.rows[1].points.isEmpty());
+    const BuiltTable& tips = built.table(QStringLiteral("tovalin1_gram_tip"));
+    EXPECT_EQ(tips.rows[0].points, (QStringList{QStringLiteral("plural-s"), QStringLiteral("plural-es")}));
+}
+
+TEST_F(CourseFolder, TellsAPointWhereATableHasNone) {
+    write("unit01/newword.csv", "recordno,word,korean,point\n1,cat,고양이,plural-s\n");
+    EXPECT_EQ(wrong(), QStringList{QStringLiteral("unit01/newword.csv:1, field 'point'")});
+}
+
 TEST_F(CourseFolder, FillsInPlacesOrdersAndCounts) {
     write("unit01/newword.csv", "recordno,word,korean\n1,cat,고양이\n1,dog,개\n");
     write("unit01/tovalin1_quiz_data.csv", "recordno,q1,a1\n1,x,a\n1,y,b\n1,z,c\n");
