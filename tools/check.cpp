@@ -9,10 +9,10 @@ namespace tools::check {
 
 namespace {
 
-constexpr std::array subjects{tableRules,       stepRules,     walkRules,  wordRules,      drillRules,
-                              drillAnswerRules, ruleLineRules, tipRules,   quizRules,      choiceRules,
-                              giveawayRules,    poolRules,     typedRules, wrongWordRules, buttonRules,
-                              sheetRules,       finalRules,    repeatRules};
+constexpr std::array subjects{tableRules,       stepRules,     walkRules,   wordRules,      drillRules,
+                              drillAnswerRules, ruleLineRules, tipRules,    quizRules,      choiceRules,
+                              giveawayRules,    poolRules,     typedRules,  wrongWordRules, buttonRules,
+                              sheetRules,       finalRules,    repeatRules, pointRules};
 
 /// Text tables may hold line breaks and worse; a finding is to keep its two lines.
 QString visible(const QString& text) {

@@ -69,6 +69,7 @@ std::span<const Rule> buttonRules();
 std::span<const Rule> sheetRules();
 std::span<const Rule> finalRules();
 std::span<const Rule> repeatRules();
+std::span<const Rule> pointRules();
 
 /// All of them, subject by subject.
 std::vector<const Rule*> allRules();

@@ -22,6 +22,8 @@ struct Row {
     Number topic;   // `topicno`
 
     SourcePlace at(const char* field) const;
+    /// What the row trains or teaches, as its author says.
+    const QStringList& points() const { return built->points; }
 };
 
 struct Topic : Row {
