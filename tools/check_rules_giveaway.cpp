@@ -120,6 +120,46 @@ void secondPosition(const Course& course, Findings& findings) {
              });
 }
 
+/// What is known of a text without reading the question: how it begins and how it ends.
+QStringList shapesOf(const QString& text) {
+    constexpr qsizetype endingLetters = 3;
+    const QString known = folded(text);
+    QStringList shapes;
+    if (known.contains(u' '))
+        shapes.append(known.section(u' ', 0, 0) + QStringLiteral(" …"));
+    if (known.size() > endingLetters)
+        shapes.append(QStringLiteral("… ") + known.last(endingLetters));
+    return shapes;
+}
+
+/// A form that all right answers of a step have, and no wrong choice.
+QString tellingShape(const QuizShape& shape, const std::vector<const Question*>& questions) {
+    QStringList telling = shapesOf(questions.front()->a1);
+    for (const Question* question : questions) {
+        const QStringList right = shapesOf(question->a1);
+        telling.removeIf([&](const QString& known) { return !right.contains(known); });
+        for (const QString& text : textsOf(*question, shape.choices))
+            if (folded(text) != folded(question->a1))
+                for (const QString& wrong : shapesOf(text))
+                    telling.removeAll(wrong);
+    }
+    return telling.value(0);
+}
+
+/// Where every answer has the same form, the form is clicked and the sentence is not read.
+void oneShape(const Course& course, Findings& findings) {
+    eachQuiz(course, [&](const Step& step, const QuizShape& shape,
+                         const std::vector<const Question*>& questions) {
+        if (shape.choices.empty() || static_cast<int>(questions.size()) < fewQuestions)
+            return;
+        if (const QString known = tellingShape(shape, questions); !known.isEmpty())
+            findings.add(questions.front()->at("a1"),
+                         QStringLiteral("every right answer of %1 is of the form '%2', and no wrong one is")
+                             .arg(step.called(), known),
+                         QStringLiteral("questions of two kinds, mixed"));
+    });
+}
+
 constexpr std::array rules{
     Rule{"choice-capital", Severity::Warning, "no right answer is known by its capital or small letter",
          capitals},
@@ -127,6 +167,7 @@ constexpr std::array rules{
          deadChoice},
     Rule{"choice-second-position", Severity::Warning, "second answers do not always stand in one place",
          secondPosition},
+    Rule{"choice-shape", Severity::Warning, "right answers are not known by their form alone", oneShape},
 };
 
 }  // namespace

@@ -132,6 +132,13 @@ const Cases giveawayCases(
                                           lines(4, "243,z%,is,are,be,is") + "243,w,be,are,is,are\n" +
                                           "243,v,be,are,is,be\n")},
          {at(quizTable, 2, "q4")}},
+        {"RightAnswersOfOneFormAreClickedUnread",
+         "choice-shape",
+         {steps("232,Quiz,frmQuiz7\n233,Quiz,frmQuiz7\n234,Quiz,frmQuiz7\n"),
+          questions("q1,q2,q3,a1", lines(5, "232,x%,to go,going,to go") +
+                                       lines(5, "233,y%,to go,going,going") +
+                                       lines(4, "234,z%,to go,going,going") + "234,w,to go,going,to go\n")},
+         {at(quizTable, 2, "a1"), at(quizTable, 7, "a1")}},
         {"SecondAnswersThatAlwaysStandFirstGiveThemselvesAway",
          "choice-second-position",
          {steps("57,Quiz,frmQuiz3\n58,Quiz,frmQuiz3\n"),
