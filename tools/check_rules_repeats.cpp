@@ -1,6 +1,7 @@
 // A sentence met before asks for memory, not for grammar.
 
 #include "tools/check_quiz_visit.h"
+#include "tools/check_sentences.h"
 
 #include <QHash>
 #include <QRegularExpression>
@@ -9,23 +10,6 @@
 namespace tools::check {
 
 namespace {
-
-/// Fills the gaps of a sentence with its answers, so that two questions on one sentence look alike.
-QString filled(const QuizShape& shape, const Question& question) {
-    static const QRegularExpression gap(QStringLiteral("__+"));
-    QString sentence = question.q[1];
-    QStringList answers{question.a1, question.a2};
-    if (shape.form == "frmQuiz10")
-        answers = wordsOf(question.a1);
-    if (shape.form == "frmQuiz6")
-        return question.a1;
-    if (shape.form == "frmQuiz5" && question.a1 == QStringLiteral("Blank"))
-        answers = {QString()};
-    for (const QString& answer : answers)
-        if (const auto match = gap.match(sentence); match.hasMatch())
-            sentence.replace(match.capturedStart(), match.capturedLength(), answer);
-    return sentence;
-}
 
 /// Letters alone, without what stands in brackets: "(1)", "(go)".
 QString bare(const QString& sentence) {
@@ -40,7 +24,7 @@ void sentenceTwice(const Course& course, Findings& findings) {
     QHash<QString, const Question*> first;
     eachQuiz(course, [&](const Step&, const QuizShape& shape, const std::vector<const Question*>& questions) {
         for (const Question* question : questions) {
-            const QString key = bare(filled(shape, *question));
+            const QString key = bare(filledQuestion(shape, *question));
             if (key.count(u' ') < 2)
                 continue;
             const auto known = first.constFind(key);
