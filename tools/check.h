@@ -70,6 +70,9 @@ std::span<const Rule> sheetRules();
 std::span<const Rule> finalRules();
 std::span<const Rule> repeatRules();
 std::span<const Rule> pointRules();
+std::span<const Rule> climbRules();
+std::span<const Rule> varietyRules();
+std::span<const Rule> guideRules();
 
 /// All of them, subject by subject.
 std::vector<const Rule*> allRules();
