@@ -1,6 +1,7 @@
 #include "tools/check_command.h"
 
 #include "tools/check.h"
+#include "tools/check_figures.h"
 #include "tools/check_install.h"
 #include "tools/command_line.h"
 
@@ -25,6 +26,9 @@ const QCommandLineOption rulesOption(QStringLiteral("rules"), QStringLiteral("Li
 const QCommandLineOption summaryOption(QStringLiteral("summary"),
                                        QStringLiteral("Count the findings by rule instead of listing them."));
 const QCommandLineOption errorsOption(QStringLiteral("errors-only"), QStringLiteral("Leave warnings out."));
+const QCommandLineOption figuresOption(
+    QStringLiteral("figures"),
+    QStringLiteral("Show the course in figures, unit by unit, instead of checking it."));
 
 void print(const QString& text) {
     std::fputs(text.toUtf8().constData(), stdout);
@@ -37,6 +41,13 @@ int listRules() {
     line(check::unreadableRule, Severity::Error, "a table can be read");
     for (const check::Rule* rule : check::allRules())
         line(rule->name, rule->severity, rule->demand);
+    return exitFine;
+}
+
+int showFigures(const QString& folder) {
+    const BuiltCourse built(readCourse(folder));
+    for (const QString& line : check::figures(check::Course(built.tables())))
+        print(line + u'\n');
     return exitFine;
 }
 
@@ -97,7 +108,7 @@ int runCheck(const QStringList& arguments) {
             "Tells what a screen of the program would stumble over: for each finding the place, what is "
             "wrong and what would be right. Ends with 0 without findings and 1 with some."));
     QCommandLineParser& call = line.parser();
-    call.addOptions({rootOption, rulesOption, summaryOption, errorsOption});
+    call.addOptions({rootOption, rulesOption, summaryOption, errorsOption, figuresOption});
     call.addPositionalArgument(QStringLiteral("folder"),
                                QStringLiteral("The course's text tables; the starter course without it."),
                                QStringLiteral("[folder]"));
@@ -108,6 +119,8 @@ int runCheck(const QStringList& arguments) {
     const QStringList folders = call.positionalArguments();
     if (folders.size() > 1 || (!folders.isEmpty() && call.isSet(rootOption)))
         return line.wrongCall(QStringLiteral("one course is checked at a time."));
+    if (call.isSet(figuresOption) && call.isSet(rootOption))
+        return line.wrongCall(QStringLiteral("figures are those of text tables."));
     const QString folder =
         call.isSet(rootOption) ? call.value(rootOption) : folders.value(0, starterFolder());
     if (!QFileInfo(folder).isDir())
@@ -115,6 +128,8 @@ int runCheck(const QStringList& arguments) {
     QElapsedTimer timer;
     timer.start();
     try {
+        if (call.isSet(figuresOption))
+            return showFigures(folder);
         Checked checked = call.isSet(rootOption) ? checkInstall(folder) : checkFolder(folder);
         return report(std::move(checked), call, timer.elapsed());
     } catch (const std::exception& failure) {

@@ -73,6 +73,14 @@ TEST_F(CourseCommands, CheckEndsWith1AndTellsPlaceWrongAndRight) {
     EXPECT_TRUE(contains(ending.out, "1 error, 0 warnings")) << ending.out;
 }
 
+TEST_F(CourseCommands, CheckShowsACourseInFigures) {
+    const Ending ending = run(tools::runCheck, {QStringLiteral("--figures"), course});
+    EXPECT_EQ(ending.status, 0);
+    EXPECT_TRUE(contains(ending.out, "unit   questions    points")) << ending.out;
+    EXPECT_TRUE(contains(ending.out, "all           16 ")) << ending.out;
+    EXPECT_EQ(run(tools::runCheck, {QStringLiteral("--figures"), QStringLiteral("--root"), root}).status, 2);
+}
+
 TEST_F(CourseCommands, CheckLeavesWarningsOutWhereErrorsAloneAreWanted) {
     append("/unit01/newword.csv", "45,Seoul,서울\n");
     EXPECT_EQ(run(tools::runCheck, {course}).status, 1);
