@@ -71,3 +71,52 @@ TEST_F(DrivesTest, TellsLengthsOfFilesOnly) {
 TEST(Drives, WithoutARootPathsMeanWhatTheySay) {
     EXPECT_EQ(Drives(QString()).resolve("/tmp/some file.mdb"), "/tmp/some file.mdb");
 }
+
+TEST_F(DrivesTest, NoPathLeadsOutOfItsDriveWhateverItIsMadeOf) {
+    put("D/inside.txt");
+    const QString climb = QStringLiteral("..\\..\\..\\..\\..\\..\\..\\..");
+    const std::vector<std::pair<QString, const char*>> hostile{
+        {"D:\\..\\..\\outside.txt", "D/outside.txt"},
+        {"D:\\a\\..\\..\\b\\..\\..\\..\\outside.txt", "D/outside.txt"},
+        {"D:..\\outside.txt", "D/outside.txt"},
+        {"D:/../../outside.txt", "D/outside.txt"},
+        {"D:\\" + climb + folder.path() + "\\outside.txt", nullptr},
+        {"D:\\" + climb + "\\etc\\passwd", "D/etc/passwd"},
+        {"D:\\.\\.\\inside.txt", "D/inside.txt"},
+        {"D:\\..", "D"},
+        {"D:\\...\\inside.txt", "D/.../inside.txt"},
+        {"..\\..\\outside.txt", "C/outside.txt"},
+        {"/etc/passwd", "C/etc/passwd"},
+        {"\\\\server\\share\\x", "C/server/share/x"},
+        {"..:\\x", "C/..:/x"},
+        {"/:\\..\\x", "C/x"},
+        {"D:\\C:\\..\\..\\..\\x", "D/x"},
+        {"한:\\x", "C/한:/x"},
+        {QStringLiteral("D:\\button\\") + QChar(QChar::Null) + "x", "D/button/\uFFFDx"},
+        {"", "C"},
+    };
+    for (const auto& [path, expected] : hostile) {
+        const QString file = drives.resolve(path);
+        EXPECT_TRUE(file.startsWith(folder.path() + '/')) << path.toStdString();
+        EXPECT_EQ(QDir::cleanPath(file), file) << path.toStdString();
+        if (expected != nullptr) {
+            EXPECT_EQ(file, folder.filePath(QString::fromUtf8(expected))) << path.toStdString();
+        }
+    }
+}
+
+TEST_F(DrivesTest, ALinkThatLeadsOutOfItsDriveIsTold) {
+    put("D/button/next1.jpg");
+    put("elsewhere/medium/video.wmv");
+    ASSERT_TRUE(QFile::link(inside("elsewhere"), inside("D/out")));
+    ASSERT_TRUE(QFile::link(inside("D/button"), inside("D/in")));
+    ASSERT_TRUE(QFile::link(inside("elsewhere/medium"), inside("E")));
+    EXPECT_FALSE(drives.staysOnItsDrive("D:\\out\\new.txt"));
+    EXPECT_FALSE(drives.staysOnItsDrive("D:\\out\\a\\b\\new.txt"));
+    EXPECT_FALSE(drives.staysOnItsDrive("D:\\out"));
+    EXPECT_TRUE(drives.staysOnItsDrive("D:\\in\\next1.jpg"));
+    EXPECT_TRUE(drives.staysOnItsDrive("D:\\button\\new.txt"));
+    EXPECT_TRUE(drives.staysOnItsDrive("E:\\video.wmv")) << "a drive may lie elsewhere";
+    EXPECT_TRUE(drives.staysOnItsDrive("E:\\new\\video.wmv"));
+    EXPECT_TRUE(drives.staysOnItsDrive("F:\\not\\there\\yet.txt"));
+}
