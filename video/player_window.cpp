@@ -145,7 +145,8 @@ void PlayerWindow::progressed() {
 
 void PlayerWindow::keyPressEvent(QKeyEvent* event) {
     switch (event->key()) {
-        case Qt::Key_Escape: end(); break;
+        // Whoever fills the screen wants it back first, as in every player.
+        case Qt::Key_Escape: full_ ? toggleFullWindow() : end(); break;
         case Qt::Key_Space:
             if (!event->isAutoRepeat())
                 web1_->togglePlaying();
