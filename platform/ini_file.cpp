@@ -1,10 +1,11 @@
 #include "platform/ini_file.h"
 
+#include "platform/whole_file.h"
+
 #include <QByteArrayList>
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
-#include <QSaveFile>
 #include <QStringList>
 #include <QUrl>
 
@@ -122,8 +123,8 @@ bool writeIni(const QString& file, const QString& section, const QString& key, c
     else
         lines += {(u'[' + section + u']').toUtf8(), entry};
     QDir().mkpath(QFileInfo(file).path());
-    QSaveFile saved(file);
-    return saved.open(QIODevice::WriteOnly) && saved.write(lines.join('\n') + '\n') >= 0 && saved.commit();
+    // Who learns here is nobody else's business.
+    return writeWhole(file, lines.join('\n') + '\n', Readers::OwnerAlone).isEmpty();
 }
 
 }  // namespace platform

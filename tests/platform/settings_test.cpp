@@ -122,3 +122,11 @@ TEST_F(SettingsTest, WhatAnotherProgramWroteInAnotherEncodingIsKeptByteByByte) {
     ASSERT_TRUE(in.open(QIODevice::ReadOnly));
     EXPECT_EQ(in.readAll(), "[Other]\nTown=\xB0\xA1\n[General Information]\nUserID=8\n");
 }
+
+TEST_F(SettingsTest, NobodyElseReadsWhoLearnsHere) {
+    byHand("[Platform]\nRoot=/somewhere\n");
+    settings.write(application, general, QStringLiteral("UserID"), QStringLiteral("1001"));
+    const QFile::Permissions others =
+        QFile::ReadGroup | QFile::ReadOther | QFile::WriteGroup | QFile::WriteOther;
+    EXPECT_EQ(QFile::permissions(platform::settingsPlace(application)) & others, QFile::Permissions());
+}
