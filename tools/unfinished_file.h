@@ -5,7 +5,7 @@
 namespace tools {
 
 /// A file that is being written: it goes away again unless it was moved to its place, also where the program
-/// is interrupted.
+/// is interrupted. What the engine keeps beside a store goes with it.
 class UnfinishedFile {
    public:
     explicit UnfinishedFile(QString name);
@@ -18,6 +18,9 @@ class UnfinishedFile {
     QString name_;
     int slot_ = -1;  // where an interruption finds the name
 };
+
+/// Removes the stores below a folder that a killed tool left unfinished. Nobody else may be writing there.
+void sweepUnfinishedStores(const QString& root);
 
 /// From now on, an interruption from the terminal or a request to end removes the unfinished files and ends
 /// the program.

@@ -1,5 +1,6 @@
 #include "tools/unfinished_file.h"
 
+#include <QDir>
 #include <QFile>
 #include <QTemporaryDir>
 
@@ -55,6 +56,38 @@ TEST(UnfinishedFile, IsTakenAwayByAnInterruption) {
         testing::ExitedWithCode(128 + SIGTERM), "");
     EXPECT_FALSE(QFile::exists(outer));
     EXPECT_FALSE(QFile::exists(inner));
+}
+
+TEST(UnfinishedFile, TakesTheJournalBesideItAlong) {
+    const QTemporaryDir folder;
+    const QString name = folder.filePath(QStringLiteral("tovalin.mdb.new"));
+    const QString journal = name + QStringLiteral("-journal");
+    {
+        const UnfinishedFile file(name);
+        write(journal);
+    }
+    EXPECT_FALSE(QFile::exists(journal));
+    EXPECT_EXIT(
+        {
+            tools::removeUnfinishedOnInterrupt();
+            const UnfinishedFile file(name);
+            write(name);
+            write(journal);
+            std::raise(SIGTERM);
+        },
+        testing::ExitedWithCode(128 + SIGTERM), "");
+    EXPECT_FALSE(QFile::exists(journal));
+}
+
+TEST(UnfinishedFile, OfAKilledToolIsSweptAndNothingElseIs) {
+    const QTemporaryDir folder;
+    QDir(folder.path()).mkpath(QStringLiteral("D"));
+    for (const char* name : {"D/tovalin.mdb.new", "D/tovalin.mdb.new-journal", "D/tovalin.mdb", "D/mine.new",
+                             "D/tovalin.mdb-journal"})
+        write(folder.filePath(QLatin1String(name)));
+    tools::sweepUnfinishedStores(folder.path());
+    EXPECT_EQ(QDir(folder.filePath(QStringLiteral("D"))).entryList(QDir::Files),
+              (QStringList{"mine.new", "tovalin.mdb", "tovalin.mdb-journal"}));
 }
 
 }  // namespace
