@@ -63,6 +63,24 @@ struct Item {
     QString fileName;
 };
 
+constexpr qsizetype listedStrangers = 5;
+
+/// What a note shows of a name, which must not move the cursor of a terminal.
+QString shown(QString name) {
+    for (QChar& letter : name)
+        if (letter.category() == QChar::Other_Control)
+            letter = u'?';
+    return name;
+}
+
+/// True for names that a drive of the old install could hold. A backslash would be taken for a step between
+/// folders there, a colon for the end of a drive letter.
+bool couldLieOnADrive(const QString& relative) {
+    return std::none_of(relative.begin(), relative.end(), [](QChar letter) {
+        return letter == u'\\' || letter == u':' || letter.category() == QChar::Other_Control;
+    });
+}
+
 class Search {
    public:
     explicit Search(const QString& from) : root_(from) {}
@@ -70,6 +88,8 @@ class Search {
 
    private:
     void collect();
+    QString strangeness(const QString& file, const QString& relative) const;
+    void noteStrangers(const QStringList& strangers);
     void sortStores();
     void chooseStore(const QString& name, QList<Item> candidates);
     void findApplicationFolder();
@@ -102,9 +122,16 @@ void Search::collect() {
     }
     const QStringList folders = root_.entryList(QDir::Dirs | QDir::NoDotAndDotDot);
     drives_ = std::any_of(folders.begin(), folders.end(), isDriveFolder);
+    QStringList strangers;
     QDirIterator walk(root_.path(), QDir::Files | QDir::Hidden, QDirIterator::Subdirectories);
     while (walk.hasNext()) {
         const QString file = walk.next();
+        const QString reason = strangeness(file, root_.relativeFilePath(file));
+        if (!reason.isEmpty()) {
+            strangers.append(
+                QStringLiteral("%1 was left aside: %2.").arg(shown(root_.relativeFilePath(file)), reason));
+            continue;
+        }
         Item item{file, root_.relativeFilePath(file), {}, {}, walk.fileName()};
         const QString first = item.relative.section(u'/', 0, 0);
         const bool onDrive = drives_ && item.relative.contains(u'/') && isDriveFolder(first);
@@ -114,6 +141,27 @@ void Search::collect() {
     }
     std::sort(items_.begin(), items_.end(),
               [](const Item& a, const Item& b) { return a.relative < b.relative; });
+    strangers.sort();
+    noteStrangers(strangers);
+}
+
+/// Why a file is none that an old install can have, empty where it is one.
+QString Search::strangeness(const QString& file, const QString& relative) const {
+    if (!couldLieOnADrive(relative))
+        return QStringLiteral("no drive of the course can hold a file of this name");
+    const QFileInfo info(file);
+    if (!info.isFile())
+        return QStringLiteral("it is no regular file");
+    if (!info.canonicalFilePath().startsWith(root_.canonicalPath() + u'/'))
+        return QStringLiteral("it is a link that leads out of the folder");
+    return {};
+}
+
+void Search::noteStrangers(const QStringList& strangers) {
+    found_.notes += strangers.mid(0, listedStrangers);
+    if (strangers.size() > listedStrangers)
+        found_.notes.append(QStringLiteral("%1 further files were left aside for such reasons.")
+                                .arg(strangers.size() - listedStrangers));
 }
 
 int Search::applicationStoresIn(const QString& folder) const {

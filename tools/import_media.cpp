@@ -39,38 +39,53 @@ void flushToDisk(const QString& path) {
     close(handle);
 }
 
+/// For the end of another sentence.
+QString sentenceOf(const std::runtime_error& failure) {
+    const QString sentence = QString::fromUtf8(failure.what());
+    return sentence.endsWith(u'.') ? sentence.chopped(1) : sentence;
+}
+
 }  // namespace
 
-QString moveFile(const QString& finished, const QString& place) {
+Moved moveFile(const QString& finished, const QString& place) {
     flushToDisk(finished);
+    Moved moved;
+    try {
+        moved.kept = keepOlder(place);
+    } catch (const std::runtime_error& failure) {
+        return {sentenceOf(failure), {}};
+    }
     if (std::rename(QFile::encodeName(finished).constData(), QFile::encodeName(place).constData()) != 0)
-        return QStringLiteral("%1 cannot be written").arg(place);
+        return {QStringLiteral("%1 cannot be written").arg(place), {}};
     flushToDisk(QFileInfo(place).path());
-    return {};
+    return moved;
 }
 
-QString moveStore(const QString& finished, const QString& place) {
+Moved moveStore(const QString& finished, const QString& place) {
     flushToDisk(finished);
+    Moved moved;
     try {
-        moveIntoPlace(finished, place);
+        moved.kept = moveIntoPlace(finished, place, Older::Kept);
     } catch (const std::runtime_error& failure) {
-        const QString sentence = QString::fromUtf8(failure.what());
-        return sentence.endsWith(u'.') ? sentence.chopped(1) : sentence;
+        return {sentenceOf(failure), {}};
     }
     flushToDisk(QFileInfo(place).path());
-    return {};
+    return moved;
 }
 
-QString copyWhole(const QString& from, const QString& to, FileMover mover) {
+Moved copyWhole(const QString& from, const QString& to, FileMover mover) {
+    // A device or a pipe would be read for ever.
+    if (!QFileInfo(from).isFile())
+        return {QStringLiteral("it is no regular file"), {}};
     const QString folder = QFileInfo(to).path();
     if (!QDir().mkpath(folder))
-        return QStringLiteral("the folder %1 cannot be made").arg(folder);
+        return {QStringLiteral("the folder %1 cannot be made").arg(folder), {}};
     const UnfinishedFile half(to + QStringLiteral(".new"));
     if (!QFile::copy(from, half.name()))
-        return QStringLiteral("it cannot be copied to %1").arg(to);
+        return {QStringLiteral("it cannot be copied to %1").arg(to), {}};
     QFile::setPermissions(half.name(), QFile::permissions(half.name()) | QFile::WriteOwner);
     if (!sameContent(from, half.name()))
-        return QStringLiteral("the copy in %1 differs").arg(to);
+        return {QStringLiteral("the copy in %1 differs").arg(to), {}};
     return mover(half.name(), to);
 }
 
@@ -81,9 +96,14 @@ MediaReport copyMedia(const std::vector<FoundMedia>& media, const platform::Driv
     for (const FoundMedia& item : media) {
         const QString target = drives.resolve(item.target);
         const bool present = QFileInfo(target).isFile() && sameContent(item.file, target);
-        const QString failure = present || dryRun ? QString() : copyWhole(item.file, target);
-        if (!failure.isEmpty())
-            report.problems.append(QStringLiteral("%1: %2.").arg(item.shownName, failure));
+        Moved moved;
+        if (!drives.staysOnItsDrive(item.target))
+            moved.failure = QStringLiteral("%1 lies behind a link that leads out of its drive").arg(target);
+        else if (!present && !dryRun)
+            moved = copyWhole(item.file, target);
+        report.kept += moved.kept.isEmpty() ? 0 : 1;
+        if (!moved.failure.isEmpty())
+            report.problems.append(QStringLiteral("%1: %2.").arg(item.shownName, moved.failure));
         else
             ++(present ? report.present : report.copied);
         report.bytes += QFileInfo(item.file).size();

@@ -14,6 +14,7 @@ struct MediaReport {
     qint64 copied = 0;
     qint64 present = 0;  // already there with the same content
     qint64 bytes = 0;
+    qint64 kept = 0;  // replaced ones that lie under a further name now
     QStringList problems;
 };
 
@@ -21,16 +22,20 @@ struct MediaReport {
 MediaReport copyMedia(const std::vector<FoundMedia>& media, const platform::Drives& drives, bool dryRun,
                       const std::function<void(qint64 done, qint64 total)>& progress);
 
-/// Moves a finished file to its place. Gives an empty text, or why it cannot be done.
-using FileMover = QString (*)(const QString& finished, const QString& place);
+struct Moved {
+    QString failure;  // why it could not be done; empty when it was
+    QString kept;     // the name that the file that lay there is kept under; empty without one
+};
+
+/// Moves a finished file to its place.
+using FileMover = Moved (*)(const QString& finished, const QString& place);
 
 /// So that after a power cut the old file or the new one is there.
-QString moveFile(const QString& finished, const QString& place);
+Moved moveFile(const QString& finished, const QString& place);
 /// The same for a store, which a program may have open.
-QString moveStore(const QString& finished, const QString& place);
+Moved moveStore(const QString& finished, const QString& place);
 
-/// Copies a file beside its place and has it moved there once it is proven and on the disk. Gives an empty
-/// text, or why it cannot be done.
-QString copyWhole(const QString& from, const QString& to, FileMover mover = moveFile);
+/// Copies a regular file beside its place and has it moved there once it is proven and on the disk.
+Moved copyWhole(const QString& from, const QString& to, FileMover mover = moveFile);
 
 }  // namespace tools

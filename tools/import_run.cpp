@@ -5,6 +5,7 @@
 #include "tools/import_media.h"
 #include "tools/import_report.h"
 #include "tools/import_scores.h"
+#include "tools/replace_store.h"
 #include "tools/unfinished_file.h"
 
 #include <SQLiteCpp/Backup.h>
@@ -27,6 +28,29 @@ QString formatOf(const QString& file) {
     const auto header =
         opened.open(QIODevice::ReadOnly) ? parseAccessHeader(opened.read(headerBytes)) : std::nullopt;
     return header ? QLatin1String(header->formatName()) : QStringLiteral("unknown format");
+}
+
+/// A copy of a store that is about to change in its place, under a further name; gives that name.
+QString copyBeside(SQLite::Database& store, const QString& place) {
+    const QString kept = freeNameBeside(place);
+    SQLite::Database copy(kept.toStdString(), SQLite::OPEN_READWRITE | SQLite::OPEN_CREATE);
+    keepFromOthers(kept);
+    SQLite::Backup(copy, store).executeStep();
+    return kept;
+}
+
+/// True for a database of somebody else's under a store's name. A damaged one counts as the course's own.
+bool isForeignStore(const QString& file, const QString& schemaStore) {
+    try {
+        SQLite::Database store(file.toStdString(), SQLite::OPEN_READONLY, busyTimeout);
+        bool known = false;
+        for (const core::TableDefinition& definition : core::tableDefinitions())
+            known = known || (definition.store == schemaStore.toStdString() &&
+                              store.tableExists(std::string(definition.table)));
+        return !known;
+    } catch (const SQLite::Exception&) {
+        return false;
+    }
 }
 
 }  // namespace
@@ -56,6 +80,10 @@ bool Importer::run() {
         return false;
     }
     notes_ = install.notes;
+    if (!options_.dryRun && !takeRoot()) {
+        printEnd(install);
+        return false;
+    }
     for (const FoundStore& store : install.stores) {
         try {
             importStore(store);
@@ -64,11 +92,28 @@ bool Importer::run() {
         } catch (const SQLite::Exception& error) {
             tell(QStringLiteral("%1: the store cannot be written: %2.")
                      .arg(store.shownName, QString::fromUtf8(error.what())));
+        } catch (const std::runtime_error& error) {
+            tell(QStringLiteral("%1: %2").arg(store.shownName, QString::fromUtf8(error.what())));
         }
     }
     importMedia(install);
     printEnd(install);
     return problems_.isEmpty();
+}
+
+/// Keeps the program and other tools out: a store must not change under whoever has it open.
+bool Importer::takeRoot() {
+    try {
+        if (!QDir().mkpath(drives_.resolve(QStringLiteral("D:"))))
+            throw std::runtime_error(
+                QStringLiteral("The folder %1 cannot be made.").arg(options_.root).toStdString());
+        root_.take(options_.root);
+        course_ = holdCourse(options_.root);
+        return true;
+    } catch (const std::runtime_error& error) {
+        tell(QString::fromUtf8(error.what()));
+        return false;
+    }
 }
 
 bool Importer::mayReplace(const FoundStore& store) {
@@ -85,13 +130,32 @@ bool Importer::mayReplace(const FoundStore& store) {
             return false;
     }
     for (const QString& path : store.targets)
-        if (isAccessFile(drives_.resolve(path))) {
-            tell(QStringLiteral(
-                     "%1: %2 is a genuine Access file and was left as it is; import into another folder.")
-                     .arg(store.shownName, drives_.resolve(path)));
+        if (const QString reason = obstacle(store.schemaStore, path); !reason.isEmpty()) {
+            tell(QStringLiteral("%1: %2 %3.").arg(store.shownName, drives_.resolve(path), reason));
             return false;
         }
     return true;
+}
+
+/// Why a store must not take a place, for the end of a sentence; empty where it may.
+QString Importer::obstacle(const QString& schemaStore, const QString& path) const {
+    if (!drives_.staysOnItsDrive(path))
+        return QStringLiteral("lies behind a link that leads out of its drive");
+    const QString file = drives_.resolve(path);
+    switch (platform::storeFormat(file)) {
+        case platform::StoreFormat::AccessFile:
+            return QStringLiteral(
+                "is a genuine Access file and was left as it is; import into another folder");
+        case platform::StoreFormat::Unknown:
+            return QStringLiteral("is no store of this program and was left as it is; move it away first");
+        case platform::StoreFormat::Missing:
+            return QFileInfo::exists(file) ? QStringLiteral("cannot be read and was left as it is")
+                                           : QString();
+        case platform::StoreFormat::Store: break;
+    }
+    return isForeignStore(file, schemaStore)
+               ? QStringLiteral("holds no table of the course and was left as it is; move it away first")
+               : QString();
 }
 
 void Importer::importStore(const FoundStore& store) {
@@ -148,6 +212,8 @@ void Importer::writeNew(const FoundStore& store, const QString& target) {
     CopyReport report;
     {
         SQLite::Database written(half.name().toStdString(), SQLite::OPEN_READWRITE | SQLite::OPEN_CREATE);
+        if (store.schemaStore == QStringLiteral("DbScore"))
+            keepFromOthers(half.name());
         // Nobody sees the file before it is whole, and moving it to its place flushes it to the disk.
         written.exec("PRAGMA journal_mode=MEMORY; PRAGMA synchronous=OFF");
         report = copyInto(written, store);
@@ -180,15 +246,24 @@ bool Importer::verify(const QString& file, const FoundStore& store, const CopyRe
     return whole;
 }
 
+void Importer::tellKept(const QString& place, const QString& kept) {
+    if (!kept.isEmpty())
+        notes_.append(
+            QStringLiteral("%1 was there; it is kept as %2.").arg(place, QFileInfo(kept).fileName()));
+}
+
 void Importer::place(const FoundStore& store, const QString& finished) {
-    for (const QString& path : store.targets.mid(1))
-        if (const QString failure = copyWhole(finished, drives_.resolve(path), moveStore); !failure.isEmpty())
-            tell(QStringLiteral("%1: %2.").arg(store.shownName, failure));
+    for (const QString& path : store.targets.mid(1)) {
+        const Moved moved = copyWhole(finished, drives_.resolve(path), moveStore);
+        tellKept(drives_.resolve(path), moved.kept);
+        if (!moved.failure.isEmpty())
+            tell(QStringLiteral("%1: %2.").arg(store.shownName, moved.failure));
+    }
     const QString first = drives_.resolve(store.targets.first());
-    if (QFileInfo::exists(first))
-        notes_.append(QStringLiteral("%1 was there and was replaced by %2.").arg(first, store.shownName));
-    if (const QString failure = moveStore(finished, first); !failure.isEmpty())
-        tell(QStringLiteral("%1: %2.").arg(store.shownName, failure));
+    const Moved moved = moveStore(finished, first);
+    tellKept(first, moved.kept);
+    if (!moved.failure.isEmpty())
+        tell(QStringLiteral("%1: %2.").arg(store.shownName, moved.failure));
     else
         wrote_ = true;
 }
@@ -211,8 +286,13 @@ void Importer::merge(const FoundStore& store, const QString& target) {
     SQLite::Database trial(memoryStore.toStdString(), SQLite::OPEN_READWRITE | SQLite::OPEN_CREATE);
     if (options_.dryRun)
         SQLite::Backup(trial, inUse).executeStep();
+    const QString kept = options_.dryRun ? QString() : copyBeside(inUse, target);
     const ScoreMerge merged = mergeScores(copy, options_.dryRun ? trial : inUse);
     wrote_ = wrote_ || !options_.dryRun;
+    if (merged.added + merged.renewed == 0)
+        QFile::remove(kept);
+    else
+        tellKept(target, kept);
     out_ << QStringLiteral("  joined with the scores in use: %1 new, %2 renewed, %3 kept, %4 alike\n")
                 .arg(merged.added)
                 .arg(merged.renewed)
@@ -230,6 +310,11 @@ void Importer::importMedia(const FoundInstall& install) {
             progress_(QStringLiteral("pictures, sounds and videos: %1 of %2").arg(done).arg(total));
         });
     problems_ += report.problems;
+    if (report.kept > 0)
+        notes_.append(
+            QStringLiteral("%1 pictures, sounds or videos were there with another content; they are "
+                           "kept under names that end in \".before-import\".")
+                .arg(report.kept));
     wrote_ = wrote_ || (report.copied > 0 && !options_.dryRun);
     out_ << QStringLiteral("\nPictures, sounds and videos: %1 copied, %2 there already, %3 bytes in all.\n")
                 .arg(report.copied)

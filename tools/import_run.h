@@ -5,6 +5,7 @@
 #include "tools/import_store.h"
 
 #include "platform/drives.h"
+#include "tools/root_hold.h"
 
 #include <QTextStream>
 
@@ -34,7 +35,10 @@ class Importer {
     bool wrote() const { return wrote_; }
 
    private:
+    bool takeRoot();
     void importStore(const FoundStore& store);
+    QString obstacle(const QString& schemaStore, const QString& path) const;
+    void tellKept(const QString& place, const QString& kept);
     CopyReport copyInto(SQLite::Database& store, const FoundStore& source);
     bool mayReplace(const FoundStore& store);
     void writeNew(const FoundStore& store, const QString& target);
@@ -55,6 +59,8 @@ class Importer {
     platform::Drives drives_;
     QStringList problems_;
     QStringList notes_;
+    RootHold root_;
+    CourseHold course_;
     bool wrote_ = false;
 };
 

@@ -1,9 +1,11 @@
 #include "tools/install.h"
 
-#include "core/turn.h"
 #include "platform/database.h"
+#include "platform/whole_file.h"
 #include "tools/check.h"
 #include "tools/course_source.h"
+#include "tools/replace_store.h"
+#include "tools/root_hold.h"
 #include "tools/store_writer.h"
 #include "tools/wave.h"
 
@@ -13,7 +15,6 @@
 #include <QDirIterator>
 #include <QFile>
 #include <QFileInfo>
-#include <QSaveFile>
 
 #include <array>
 
@@ -24,8 +25,6 @@ namespace {
 // A file of this name in the root says that the install is ours, and which course its stores were built from.
 const QString markName = QStringLiteral(".mendori-install");
 const QString unfinished = QStringLiteral("unfinished");
-// The set-up that is at work in the root holds this file locked.
-const QString lockName = QStringLiteral(".mendori-setup.lock");
 // Counts up whenever the stores' layout changes, so that an older install is rebuilt.
 constexpr int layoutVersion = 1;
 
@@ -47,7 +46,10 @@ constexpr std::array contentStores{
 
 class Installer {
    public:
-    explicit Installer(const InstallPlan& plan) : plan_(plan), root_(plan.root) {}
+    /// What the stores are built from is told by the tables as they are before the first is read: one that is
+    /// saved later than that is built the next time.
+    explicit Installer(const InstallPlan& plan)
+        : plan_(plan), root_(plan.root), stamp_(courseStamp(plan.courseFolder)) {}
 
     void run() {
         Damages damages;
@@ -62,7 +64,7 @@ class Installer {
         if (plan_.speakWords)
             speakWords(course.words().keys(), root_.filePath(QStringLiteral("D/A_Mendori/ABCSound")),
                        plan_.progress);
-        writeMark(courseStamp());
+        writeMark(stamp_);
     }
 
     BuiltStores runStores() {
@@ -72,7 +74,7 @@ class Installer {
         built.warnings = checkCourse(course, damages);
         claimRoot();
         makeStores(course);
-        writeMark(courseStamp());
+        writeMark(stamp_);
         built.stores = static_cast<int>(contentStores.size());
         for (const BuiltTable& table : course.tables())
             built.rows += static_cast<int>(table.rows.size());
@@ -120,31 +122,28 @@ class Installer {
             if (!root_.mkpath(QLatin1String(folder)))
                 refuse(QStringLiteral("The folder %1 cannot be made.")
                            .arg(root_.filePath(QLatin1String(folder))));
-        if (!alone_.tryTake(root_.filePath(lockName)))
-            refuse(QStringLiteral("Another set-up is at work in %1. Run this again when it has ended.")
-                       .arg(plan_.root));
+        hold_.take(plan_.root);
     }
 
     /// Until every store is made anew the install is of no course: a run that is cut short is made good by
     /// the next, whichever course that one is of.
-    void beginRebuild(platform::FileLock& turn) const {
-        if (!turn.tryTake(root_.filePath(QStringLiteral("D/") + core::turnFileName)))
-            refuse(QStringLiteral("The course in %1 is open. Close the program and run this again.")
-                       .arg(plan_.root));
+    CourseHold beginRebuild() const {
+        CourseHold turn = holdCourse(plan_.root);
         writeMark(unfinished);
+        return turn;
     }
 
     void writeMark(const QString& stamp) const {
-        QSaveFile mark(markFile());
-        if (!mark.open(QIODevice::WriteOnly) || mark.write(stamp.toUtf8() + '\n') < 0 || !mark.commit())
-            refuse(QStringLiteral("%1 cannot be written.").arg(markFile()));
+        const QString problem = platform::writeWhole(markFile(), stamp.toUtf8() + '\n');
+        if (!problem.isEmpty())
+            refuse(QStringLiteral("%1 cannot be written: %2").arg(markFile(), problem));
     }
 
-    QString courseStamp() const {
+    static QString courseStamp(const QString& courseFolder) {
         QCryptographicHash hash(QCryptographicHash::Sha1);
         hash.addData(QByteArray::number(layoutVersion));
         QStringList files;
-        for (QDirIterator it(plan_.courseFolder, {QStringLiteral("*.csv")}, QDir::Files,
+        for (QDirIterator it(courseFolder, {QStringLiteral("*.csv")}, QDir::Files,
                              QDirIterator::Subdirectories);
              it.hasNext();)
             files.append(it.next());
@@ -152,7 +151,7 @@ class Installer {
         for (const QString& file : files) {
             QFile opened(file);
             if (opened.open(QIODevice::ReadOnly)) {
-                hash.addData(file.mid(plan_.courseFolder.size()).toUtf8());
+                hash.addData(file.mid(courseFolder.size()).toUtf8());
                 hash.addData(&opened);
             }
         }
@@ -161,14 +160,12 @@ class Installer {
 
     bool isCurrent() const {
         QFile mark(markFile());
-        return mark.open(QIODevice::ReadOnly) && QString::fromUtf8(mark.readAll()).trimmed() == courseStamp();
+        return mark.open(QIODevice::ReadOnly) && QString::fromUtf8(mark.readAll()).trimmed() == stamp_;
     }
 
     void makeStores(const BuiltCourse& course) const {
         const bool current = isCurrent();
-        platform::FileLock turn;
-        if (!current)
-            beginRebuild(turn);
+        const CourseHold turn = current ? CourseHold() : beginRebuild();
         int done = 0;
         for (const StorePlace& place : contentStores) {
             tell(QStringLiteral("stores"), ++done, static_cast<int>(contentStores.size()));
@@ -191,6 +188,8 @@ class Installer {
             root_.filePath(QStringLiteral("C/A_Mendori/Main/DbScore_%1.mdb").arg(plan_.userId));
         if (!QFile::exists(file))
             writeStore(file, QStringLiteral("DbScore"), {});
+        else if (platform::storeFormat(file) == platform::StoreFormat::Store)
+            keepFromOthers(file);
     }
 
     static void copyNewer(const QString& from, const QString& to) {
@@ -237,7 +236,8 @@ class Installer {
 
     const InstallPlan& plan_;
     QDir root_;
-    platform::FileLock alone_;
+    const QString stamp_;
+    RootHold hold_;
 };
 
 }  // namespace

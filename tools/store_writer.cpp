@@ -33,7 +33,10 @@ void fill(SQLite::Database& store, const BuiltTable& table) {
 
 void writeTables(const QString& file, const QString& schemaStore, const std::vector<BuiltTable>& content) {
     SQLite::Database store(file.toStdString(), SQLite::OPEN_READWRITE | SQLite::OPEN_CREATE);
-    store.exec("PRAGMA application_id=" + std::to_string(markNumber));
+    if (schemaStore == QStringLiteral("DbScore"))
+        keepFromOthers(file);
+    // Nobody sees the file before it is whole, so that no journal has to lie beside it.
+    store.exec("PRAGMA journal_mode=MEMORY; PRAGMA application_id=" + std::to_string(markNumber));
     SQLite::Transaction transaction(store);
     for (const core::TableDefinition& definition : core::tableDefinitions())
         if (QLatin1String(definition.store.data(), static_cast<qsizetype>(definition.store.size())) ==

@@ -4,6 +4,8 @@
 
 #include <gtest/gtest.h>
 
+#include <sys/stat.h>
+
 #include <algorithm>
 
 namespace {
@@ -125,6 +127,48 @@ TEST_F(ImportLayout, FindsNothingInAFolderWithoutStores) {
     put(QStringLiteral("holiday.mdb"));
     put(QStringLiteral("DbScore_.mdb"));
     EXPECT_TRUE(search().stores.empty());
+}
+
+TEST_F(ImportLayout, LeavesAsideWhatNoDriveOfTheCourseCanHold) {
+    put(QStringLiteral("D/tovalin.mdb"));
+    for (const char* name : {"D/button/..\\..\\..\\.profile", "D/A_Mendori/ABCSound/..\\x.wav",
+                             "D/button/C:x.jpg", "D/button/new\nline.jpg", "D/button/\x1b[2J.jpg",
+                             "DbScore_..\\..\\x.mdb", "DbScore_C:\\x.mdb", "D/button\\..\\x/y.jpg"})
+        put(QString::fromUtf8(name));
+    const FoundInstall install = search();
+    EXPECT_EQ(install.stores.size(), 1U);
+    EXPECT_TRUE(install.media.empty());
+    EXPECT_TRUE(install.notes.contains(QStringLiteral(
+        "D/A_Mendori/ABCSound/..\\x.wav was left aside: no drive of the course can hold a file of this name.")));
+    EXPECT_TRUE(install.notes.contains(QStringLiteral("3 further files were left aside for such reasons.")))
+        << install.notes.join(u'\n').toStdString();
+    EXPECT_FALSE(install.notes.join(QString()).contains(QChar(0x1b)));
+}
+
+TEST_F(ImportLayout, LeavesAsideLinksThatLeadOutAndWhatIsNoRegularFile) {
+    put(QStringLiteral("D/tovalin.mdb"));
+    put(QStringLiteral("D/button/real.jpg"));
+    const QTemporaryDir elsewhere;
+    import_test::writeText(elsewhere.filePath(QStringLiteral("secret")), "secret");
+    const auto link = [&](const QString& to, const char* name) {
+        ASSERT_TRUE(QFile::link(to, folder_.filePath(QLatin1String(name))));
+    };
+    link(QStringLiteral("/dev/zero"), "D/button/zero.jpg");
+    link(QStringLiteral("/dev/zero"), "D/Tovalin_Data.mdb");
+    link(elsewhere.filePath(QStringLiteral("secret")), "D/button/secret.jpg");
+    link(folder_.filePath(QStringLiteral("D/button/real.jpg")), "D/button/same.jpg");
+    link(elsewhere.path(), "D/interface");
+    ASSERT_EQ(mkfifo(qPrintable(folder_.filePath(QStringLiteral("D/button/pipe.jpg"))), 0600), 0);
+    const FoundInstall install = search();
+    EXPECT_EQ(install.stores.size(), 1U);
+    QStringList media;
+    for (const FoundMedia& item : install.media)
+        media.append(item.shownName);
+    EXPECT_EQ(media, (QStringList{QStringLiteral("D/button/real.jpg"), QStringLiteral("D/button/same.jpg")}));
+    EXPECT_TRUE(
+        install.notes.contains(QStringLiteral("D/button/zero.jpg was left aside: it is no regular file.")));
+    EXPECT_TRUE(install.notes.contains(
+        QStringLiteral("D/button/secret.jpg was left aside: it is a link that leads out of the folder.")));
 }
 
 }  // namespace

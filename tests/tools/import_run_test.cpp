@@ -68,7 +68,8 @@ class ImportRun : public ::testing::Test {
         QStringList files;
         QDirIterator walk(folder, QDir::Files | QDir::Hidden, QDirIterator::Subdirectories);
         while (walk.hasNext())
-            files.append(QDir(folder).relativeFilePath(walk.next()));
+            if (const QString file = walk.next(); !file.endsWith(QStringLiteral(".lock")))
+                files.append(QDir(folder).relativeFilePath(file));
         files.sort();
         return files;
     }
@@ -215,12 +216,109 @@ TEST_F(ImportRun, NeverMakesAStoreOfAFileWithoutATableOfTheCourse) {
     EXPECT_FALSE(wrote_);
 }
 
-TEST_F(ImportRun, TellsAStoreThatItReplaces) {
+TEST_F(ImportRun, KeepsEveryStoreThatItReplacesAndTellsWhere) {
     EXPECT_TRUE(import());
-    EXPECT_FALSE(report_.contains(QStringLiteral("was replaced by")));
+    EXPECT_FALSE(report_.contains(QStringLiteral("before-import")));
+    tables_[QStringLiteral("tovalin.mdb")][0].rows.pop_back();
     EXPECT_TRUE(import());
     EXPECT_TRUE(report_.contains(
-        target(QStringLiteral("D/tovalin.mdb was there and was replaced by D/tovalin.mdb."))));
+        target(QStringLiteral("D/tovalin.mdb was there; it is kept as tovalin.mdb.before-import."))));
+    const QString kept = QStringLiteral(".before-import");
+    for (const QString& store : {QStringLiteral("D/tovalin.mdb"), worksheetStore}) {
+        EXPECT_EQ(ask(target(store), "SELECT count(*) FROM newword"), QStringLiteral("1"));
+        EXPECT_EQ(ask(target(store + kept), "SELECT count(*) FROM newword"), QStringLiteral("2"));
+    }
+}
+
+TEST_F(ImportRun, KeepsTheScoresAsTheyWereBeforeOthersCameIn) {
+    const auto score = [](int step) {
+        return row({qlonglong{step}, 80.0, 46037.0, QStringLiteral("1001"), QStringLiteral("Tovalin1")});
+    };
+    addScores({score(1)});
+    EXPECT_TRUE(import());
+    EXPECT_TRUE(import());
+    const QString kept = target(scoreStore + QStringLiteral(".before-import"));
+    EXPECT_FALSE(QFileInfo::exists(kept)) << "nothing changed";
+    addScores({score(1), score(2)});
+    EXPECT_TRUE(import());
+    EXPECT_EQ(ask(kept, "SELECT count(*) FROM score"), QStringLiteral("1"));
+    EXPECT_EQ(ask(target(scoreStore), "SELECT count(*) FROM score"), QStringLiteral("2"));
+}
+
+TEST_F(ImportRun, LetsNobodyElseReadTheScores) {
+    const QFile::Permissions others =
+        QFile::ReadGroup | QFile::ReadOther | QFile::WriteGroup | QFile::WriteOther;
+    addScores({row({qlonglong{1}, 80.0, 46037.0, QStringLiteral("1001"), QStringLiteral("Tovalin1")})});
+    EXPECT_TRUE(import());
+    EXPECT_EQ(QFile::permissions(target(scoreStore)) & others, QFile::Permissions());
+}
+
+TEST_F(ImportRun, TouchesNothingWhileTheCourseIsOpen) {
+    EXPECT_TRUE(import());
+    platform::FileLock program;
+    ASSERT_TRUE(program.tryTake(target(QStringLiteral("D/mendori.lock"))));
+    tables_[QStringLiteral("tovalin.mdb")][0].rows.clear();
+    EXPECT_FALSE(import());
+    ASSERT_EQ(problems_.size(), 1);
+    EXPECT_TRUE(problems_[0].contains(QStringLiteral("is open. Close the program and run this again.")));
+    EXPECT_EQ(ask(target(QStringLiteral("D/tovalin.mdb")), "SELECT count(*) FROM newword"),
+              QStringLiteral("2"));
+    EXPECT_TRUE(import(true)) << "a dry run only reads";
+}
+
+TEST_F(ImportRun, LeavesAForeignFileUnderAStoresNameAsItIs) {
+    writeText(target(QStringLiteral("D/tovalin.mdb")), "a letter to my mother");
+    EXPECT_FALSE(import());
+    ASSERT_EQ(problems_.size(), 1);
+    EXPECT_TRUE(problems_[0].contains(QStringLiteral("is no store of this program and was left as it is")));
+    QFile::remove(target(QStringLiteral("D/tovalin.mdb")));
+    {
+        SQLite::Database other(target(QStringLiteral("D/tovalin.mdb")).toStdString(),
+                               SQLite::OPEN_READWRITE | SQLite::OPEN_CREATE);
+        other.exec("CREATE TABLE bookmarks(url TEXT)");
+    }
+    EXPECT_FALSE(import());
+    ASSERT_EQ(problems_.size(), 1);
+    EXPECT_TRUE(problems_[0].contains(QStringLiteral("holds no table of the course and was left as it is")));
+}
+
+TEST_F(ImportRun, WritesNothingBehindALinkThatLeadsOutOfTheRoot) {
+    const QTemporaryDir elsewhere;
+    QDir().mkpath(target(QStringLiteral("D")));
+    ASSERT_TRUE(QFile::link(elsewhere.path(), target(QStringLiteral("D/button"))));
+    ASSERT_TRUE(QFile::link(elsewhere.path(), target(QStringLiteral("C"))));
+    writeText(from_.filePath(QStringLiteral("D/button/next1.jpg")), "picture");
+    EXPECT_FALSE(import());
+    ASSERT_EQ(problems_.size(), 1);
+    EXPECT_TRUE(problems_[0].contains(QStringLiteral("lies behind a link that leads out of its drive")));
+    EXPECT_FALSE(QFileInfo::exists(elsewhere.filePath(QStringLiteral("next1.jpg"))));
+    EXPECT_TRUE(QFileInfo::exists(elsewhere.filePath(QStringLiteral("Larkfield"))))
+        << "a drive may be a link";
+}
+
+TEST_F(ImportRun, KeepsAPictureThatItReplaces) {
+    writeText(from_.filePath(QStringLiteral("D/button/next1.jpg")), "their picture");
+    writeText(target(QStringLiteral("D/button/next1.jpg")), "my own");
+    EXPECT_TRUE(import());
+    QFile kept(target(QStringLiteral("D/button/next1.jpg.before-import")));
+    ASSERT_TRUE(kept.open(QIODevice::ReadOnly));
+    EXPECT_EQ(kept.readAll(), "my own");
+    EXPECT_TRUE(report_.contains(QStringLiteral("1 pictures, sounds or videos were there")));
+}
+
+TEST_F(ImportRun, NeverWritesOutsideItsRootWhateverTheFilesAreCalled) {
+    const QString outside = to_.filePath(QStringLiteral(".profile"));
+    writeText(outside, "mine");
+    for (const char* name : {"D/button/..\\..\\..\\.profile", "D/button/..\\..\\.profile",
+                             "D/A_Mendori/ABCSound/..\\..\\..\\..\\.profile", "D/Sound/C:\\..\\..\\.profile"})
+        writeText(from_.filePath(QLatin1String(name)), "theirs");
+    import();
+    QFile kept(outside);
+    ASSERT_TRUE(kept.open(QIODevice::ReadOnly));
+    EXPECT_EQ(kept.readAll(), "mine");
+    EXPECT_EQ(QDir(to_.path()).entryList(QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot),
+              (QStringList{".profile", "root"}));
+    EXPECT_EQ(filesUnder(root()), (QStringList{worksheetStore, QStringLiteral("D/tovalin.mdb")}));
 }
 
 TEST_F(ImportRun, NotesAFileThatEndsInsideAPage) {

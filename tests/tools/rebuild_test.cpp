@@ -25,8 +25,10 @@ class Rebuild : public testing::Test {
         make(example);
     }
     /// What the set-up refuses with, empty where it does its work.
-    QString make(const QString& from) const {
+    QString make(const QString& from, const std::function<void()>& meanwhile = {}) const {
         tools::InstallPlan plan;
+        if (meanwhile)
+            plan.progress = [&](const QString&, int done, int) { done == 1 ? meanwhile() : void(); };
         plan.root = root;
         plan.courseFolder = from;
         try {
@@ -92,4 +94,52 @@ TEST_F(Rebuild, ASecondSetUpLeavesTheRootToTheFirst) {
     platform::FileLock first;
     ASSERT_TRUE(first.tryTake(root + QStringLiteral("/.mendori-setup.lock")));
     EXPECT_TRUE(make(course).contains("Another set-up is at work"));
+}
+
+TEST_F(Rebuild, ATableThatIsSavedWhileTheSetUpIsAtWorkIsBuiltTheNextTime) {
+    const QByteArray before = firstTitle();
+    rename(before.constData(), "Another title");
+    EXPECT_EQ(make(course, [&] { rename("Another title", "A later title"); }), QString());
+    EXPECT_EQ(firstTitle(), "Another title");
+    EXPECT_EQ(make(course), QString());
+    EXPECT_EQ(firstTitle(), "A later title");
+}
+
+TEST_F(Rebuild, ACourseThatIsOpenOnAnotherDriveIsNotReplacedEither) {
+    QDir().mkpath(root + QStringLiteral("/E"));
+    ASSERT_TRUE(
+        QFile::copy(root + QStringLiteral("/D/tovalin.mdb"), root + QStringLiteral("/E/tovalin.mdb")));
+    platform::FileLock program;
+    ASSERT_TRUE(program.tryTake(root + QStringLiteral("/E/") + core::turnFileName));
+    rename(firstTitle().constData(), "Another title");
+    EXPECT_TRUE(make(course).contains("is open. Close the program"));
+}
+
+TEST_F(Rebuild, WhatAKilledSetUpLeftBesideTheStoresIsSwept) {
+    for (const char* name : {"/D/tovalin.mdb.new", "/D/tovalin.mdb.new-journal",
+                             "/C/A_Mendori/Main/DbScore_1001.mdb.new-journal"}) {
+        QFile left(root + QLatin1String(name));
+        ASSERT_TRUE(left.open(QIODevice::WriteOnly));
+    }
+    make(course);
+    EXPECT_EQ(QDir(root + QStringLiteral("/D")).entryList({QStringLiteral("*.new*")}), QStringList());
+    EXPECT_EQ(QDir(root + QStringLiteral("/C/A_Mendori/Main")).entryList({QStringLiteral("*.new*")}),
+              QStringList());
+}
+
+TEST_F(Rebuild, TheScoresAreReadByTheirOwnerAlone) {
+    const QFile::Permissions others =
+        QFile::ReadGroup | QFile::ReadOther | QFile::WriteGroup | QFile::WriteOther;
+    tools::InstallPlan plan;
+    plan.root = root;
+    plan.courseFolder = course;
+    plan.pictureFolder = QStringLiteral(MENDORI_PICTURES);
+    plan.userId = QStringLiteral("1001");
+    plan.speakWords = false;
+    const QString scores = root + QStringLiteral("/C/A_Mendori/Main/DbScore_1001.mdb");
+    for (int i = 0; i < 2; ++i) {
+        tools::makeInstall(plan);
+        EXPECT_EQ(QFile::permissions(scores) & others, QFile::Permissions());
+        QFile::setPermissions(scores, QFile::permissions(scores) | QFile::ReadOther);
+    }
 }

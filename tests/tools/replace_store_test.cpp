@@ -2,7 +2,9 @@
 
 #include "tests/support/store.h"
 
+#include <QDir>
 #include <QFile>
+#include <QTemporaryDir>
 
 #include <sys/wait.h>
 #include <unistd.h>
@@ -63,4 +65,27 @@ TEST(ReplaceStore, AStoreThatIsDamagedGivesItsPlaceAway) {
     ASSERT_TRUE(file.resize(3000));
     moveIntoPlace(newer.file(), older.file());
     EXPECT_EQ(older.rows("select count(*) from words"), QStringList{"7"});
+}
+
+TEST(ReplaceStore, AStoreThatCannotBeOpenedForAnotherReasonThanDamageKeepsItsPlace) {
+    const TemporaryStore newer(filled("fig", 7));
+    const QTemporaryDir folder;
+    const QString place = folder.filePath(QStringLiteral("tovalin.mdb"));
+    ASSERT_TRUE(QDir().mkpath(place)) << "a folder is no damaged store";
+    EXPECT_THROW(moveIntoPlace(newer.file(), place), std::runtime_error);
+    EXPECT_TRUE(QFileInfo(place).isDir());
+    EXPECT_TRUE(QFile::exists(newer.file()));
+}
+
+TEST(ReplaceStore, TheOlderStoreIsKeptBesideTheNewOneWhereAsked) {
+    const TemporaryStore older(filled("pear", 1));
+    for (const char* expected : {".before-import", ".before-import-2"}) {
+        const TemporaryStore newer(filled("fig", 7));
+        const QString kept = moveIntoPlace(newer.file(), older.file(), tools::Older::Kept);
+        EXPECT_EQ(kept, older.file() + QLatin1String(expected));
+    }
+    const SQLite::Database kept(older.file().toStdString() + ".before-import", SQLite::OPEN_READONLY);
+    SQLite::Statement word(kept, "select count(*) || substr(min(word),1,4) from words");
+    ASSERT_TRUE(word.executeStep());
+    EXPECT_EQ(word.getColumn(0).getString(), "1pear");
 }
