@@ -2,14 +2,28 @@
 
 #include "tools/import_pipe.h"
 
+#include <QFileInfo>
+
+#include <new>
+
 namespace tools {
 
 namespace {
 
+constexpr qint64 bytesInAMillisecond = 1000;
+
+QString damaged(const QString& reason) {
+    return QStringLiteral("the file is damaged: %1").arg(reason);
+}
+
 class IsolatedReader final : public AccessReader {
    public:
     IsolatedReader(ReaderMaker maker, QString file, int codePage, int patienceMs)
-        : maker_(std::move(maker)), file_(std::move(file)), codePage_(codePage), patienceMs_(patienceMs) {}
+        : maker_(std::move(maker)), file_(std::move(file)), codePage_(codePage) {
+        budget_.patienceMs = patienceMs;
+        budget_.wholeMs = 2 * patienceMs + QFileInfo(file_).size() / bytesInAMillisecond;
+        budget_.leftMs = budget_.wholeMs;
+    }
 
     QStringList tables() override;
     SourceTable openTable(const QString& name) override;
@@ -24,7 +38,7 @@ class IsolatedReader final : public AccessReader {
     ReaderMaker maker_;
     QString file_;
     int codePage_;
-    int patienceMs_;
+    ReadBudget budget_;
     std::unique_ptr<Worker> worker_;
 };
 
@@ -37,18 +51,20 @@ std::unique_ptr<Worker> IsolatedReader::start(std::function<void(MessageWriter&,
                 out.write(Message::end());
             } catch (const ReadError& error) {
                 out.write(Message::error(error.sentence()));
+            } catch (const std::bad_alloc&) {
+                out.write(Message::error(damaged(memorySentence())));
             } catch (const std::exception& error) {
                 out.write(Message::error(
                     QStringLiteral("reading failed: %1").arg(QString::fromUtf8(error.what()))));
             }
         },
-        patienceMs_);
+        budget_);
 }
 
 Message IsolatedReader::next(Worker& worker) const {
     const auto message = worker.read();
     if (!message)
-        throw ReadError(QStringLiteral("the file is damaged: %1").arg(worker.epitaph()));
+        throw ReadError(damaged(worker.epitaph()));
     if (message->kind == Message::Kind::Error)
         throw ReadError(message->sentence);
     return *message;

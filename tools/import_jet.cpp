@@ -50,6 +50,7 @@ class JetReader final : public AccessReader {
 
     JetHandle handle_;
     JetTable table_;
+    std::vector<bool> calculated_;
     int codePage_ = unicodePage;
     qint64 pages_ = 0;
     int page_ = 0;
@@ -164,7 +165,8 @@ SourceTable JetReader::openTable(const QString& name) {
     SourceTable table{name, {}, table_->num_rows};
     for (unsigned i = 0; i < table_->num_cols; ++i) {
         const MdbColumn& field = column(i);
-        table.columns.push_back({QString::fromUtf8(field.name), sourceType(field.col_type), field.col_type});
+        const SourceType type = calculated_[i] ? SourceType::Calculated : sourceType(field.col_type);
+        table.columns.push_back({QString::fromUtf8(field.name), type, field.col_type});
     }
     return table;
 }
@@ -174,6 +176,7 @@ void JetReader::loadTable(MdbCatalogEntry& entry) {
     if (!table_ || !mdb_read_columns(table_.get()) || table_->columns->len != table_->num_cols ||
         table_->num_cols == 0)
         throw ReadError(QStringLiteral("the table's definition on page %1 is damaged").arg(entry.table_pg));
+    calculated_ = calculatedColumns(*handle_, *table_);
     page_ = 0;
     entry_ = 0;
     entries_ = 0;
@@ -286,12 +289,14 @@ void JetReader::readFields(int start, std::size_t length, SourceRow& row) {
         row.problems.push_back({{}, QStringLiteral("the row on page %1 is damaged").arg(page_), false});
         return;
     }
-    FieldDecoder decoder(handle, codePage_);
+    FieldDecoder decoder(handle, pages_ * handle.fmt->pg_size, codePage_);
     row.values.resize(fields.size());
     for (const MdbField& field : fields) {
         const auto index = static_cast<unsigned>(field.colnum);
         const MdbColumn& source = column(index);
         QVariant& value = row.values[index];
+        if (calculated_[index])
+            continue;
         if (source.col_type == MDB_BOOL) {
             value = qlonglong{field.is_null ? 0 : -1};
             continue;

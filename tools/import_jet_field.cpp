@@ -112,7 +112,8 @@ SourceType sourceType(int typeCode) {
     }
 }
 
-std::optional<QByteArray> longValue(MdbHandle& handle, const QByteArray& field, QString& problem) {
+std::optional<QByteArray> longValue(MdbHandle& handle, qint64 fileBytes, const QByteArray& field,
+                                    QString& problem) {
     if (field.isEmpty())
         return QByteArray();
     if (field.size() < longValueHeader) {
@@ -122,6 +123,10 @@ std::optional<QByteArray> longValue(MdbHandle& handle, const QByteArray& field, 
     const auto head = numberAt<quint32>(field);
     const auto length = static_cast<qsizetype>(head & lengthMask);
     const auto place = numberAt<quint32>(field, 4);
+    if (length > fileBytes) {
+        problem = QStringLiteral("it would have %1 bytes, more than the file").arg(length);
+        return std::nullopt;
+    }
     std::optional<QByteArray> value;
     if (head & inRow)
         value = field.mid(longValueHeader);
@@ -142,7 +147,7 @@ std::optional<QByteArray> longValue(MdbHandle& handle, const QByteArray& field, 
 std::optional<QByteArray> FieldDecoder::textBytes(const MdbColumn& column, const QByteArray& bytes) {
     QString ignored;
     if (column.col_type == MDB_MEMO)
-        return longValue(handle_, bytes, ignored);
+        return longValue(handle_, fileBytes_, bytes, ignored);
     return column.col_type == MDB_TEXT ? std::optional(bytes) : std::nullopt;
 }
 
@@ -168,7 +173,7 @@ QVariant FieldDecoder::decode(const MdbColumn& column, const QByteArray& bytes, 
         default: return {};
     }
     QString reason;
-    const auto value = longValue(handle_, bytes, reason);
+    const auto value = longValue(handle_, fileBytes_, bytes, reason);
     if (!value) {
         problem = QStringLiteral("the long value cannot be read: %1").arg(reason);
         return {};

@@ -10,6 +10,7 @@
 
 #include <memory>
 #include <optional>
+#include <vector>
 
 namespace tools {
 
@@ -31,12 +32,15 @@ SourceType sourceType(int typeCode);
 
 /// The bytes of a long value: they lie in the row, in one row of a value page or along a chain of such rows.
 /// Overwrites the handle's second page buffer. `problem` says why nothing comes back.
-std::optional<QByteArray> longValue(MdbHandle& handle, const QByteArray& field, QString& problem);
+/// No value is longer than the file, whose bytes are counted by `fileBytes`.
+std::optional<QByteArray> longValue(MdbHandle& handle, qint64 fileBytes, const QByteArray& field,
+                                    QString& problem);
 
 /// One field as the reader gives it. `start` is its place on the handle's first page buffer.
 class FieldDecoder {
    public:
-    FieldDecoder(MdbHandle& handle, int codePage) : handle_(handle), codePage_(codePage) {}
+    FieldDecoder(MdbHandle& handle, qint64 fileBytes, int codePage)
+        : handle_(handle), fileBytes_(fileBytes), codePage_(codePage) {}
 
     /// `problem` stays empty where the value is whole.
     QVariant decode(const MdbColumn& column, const QByteArray& bytes, int start, QString& problem);
@@ -48,7 +52,12 @@ class FieldDecoder {
     QVariant decodeNumeric(const MdbColumn& column, int start);
 
     MdbHandle& handle_;
+    qint64 fileBytes_;
     int codePage_;
 };
+
+/// Which columns of a table, in its column order, hold what Access calculates out of the others. Their values
+/// lie in a wrapping of their own that the library does not take off.
+std::vector<bool> calculatedColumns(MdbHandle& handle, const MdbTableDef& table);
 
 }  // namespace tools

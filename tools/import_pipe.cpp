@@ -1,6 +1,8 @@
 #include "tools/import_pipe.h"
 
 #include <QDataStream>
+#include <QElapsedTimer>
+#include <QFile>
 #include <QIODevice>
 #include <QtEndian>
 
@@ -10,18 +12,18 @@
 #include <sys/wait.h>
 #include <unistd.h>
 
+#include <algorithm>
 #include <array>
 #include <cerrno>
 #include <csignal>
 #include <cstdlib>
+#include <utility>
 
 namespace tools {
 
 namespace {
 
-// A field that a damaged length asks memory for must not take the whole machine.
-constexpr rlim_t memoryLimit = rlim_t{2} << 30;
-constexpr quint32 longestMessage = quint32{1} << 30;
+constexpr quint32 longestMessage = quint32{messageMegabytes} << 20;
 constexpr qsizetype lengthSize = sizeof(quint32);
 
 QDataStream& operator<<(QDataStream& stream, const SourceColumn& column) {
@@ -63,18 +65,33 @@ void readList(QDataStream& stream, std::vector<Item>& items) {
     }
 }
 
+#if !defined(__SANITIZE_ADDRESS__)
+
+/// The bytes that this process has taken already, which a new worker has from its parent.
+rlim_t takenMemory() {
+    QFile file(QStringLiteral("/proc/self/statm"));
+    if (!file.open(QIODevice::ReadOnly))
+        return 0;
+    const QByteArrayList pages = file.readAll().simplified().split(' ');
+    return static_cast<rlim_t>(pages.value(5).toLongLong()) * static_cast<rlim_t>(sysconf(_SC_PAGESIZE));
+}
+
+#endif
+
 void limitWorker() {
     const rlimit noCore{0, 0};
     setrlimit(RLIMIT_CORE, &noCore);
 #if !defined(__SANITIZE_ADDRESS__)
-    const rlimit memory{memoryLimit, memoryLimit};
+    // A field that a damaged length asks memory for must not take the whole machine.
+    const rlim_t most = takenMemory() + (rlim_t{workerMegabytes} << 20);
+    const rlimit memory{most, most};
     setrlimit(RLIMIT_DATA, &memory);
 #endif
     // What the library prints on damage would stand between our own sentences.
     const int nothing = open("/dev/null", O_RDWR | O_CLOEXEC);
     for (const int stream : {STDIN_FILENO, STDOUT_FILENO, STDERR_FILENO})
         dup2(nothing, stream);
-    for (const int fatal : {SIGSEGV, SIGBUS, SIGABRT, SIGFPE, SIGILL, SIGINT, SIGTERM, SIGHUP})
+    for (const int fatal : {SIGSEGV, SIGBUS, SIGABRT, SIGFPE, SIGILL, SIGTRAP, SIGINT, SIGTERM, SIGHUP})
         std::signal(fatal, SIG_DFL);
 }
 
@@ -159,7 +176,12 @@ std::optional<Message> Message::decoded(const QByteArray& bytes) {
 }
 
 void MessageWriter::write(const Message& message) {
-    const QByteArray content = message.encoded();
+    QByteArray content = message.encoded();
+    const bool tooLong = content.size() > qsizetype{longestMessage};
+    if (tooLong)
+        content = Message::error(
+                      QStringLiteral("the file is damaged: a row is longer than %1 MB").arg(messageMegabytes))
+                      .encoded();
     QByteArray bytes(lengthSize, '\0');
     qToBigEndian(static_cast<quint32>(content.size()), bytes.data());
     bytes += content;
@@ -170,9 +192,15 @@ void MessageWriter::write(const Message& message) {
             std::_Exit(EXIT_FAILURE);
         done += count > 0 ? count : 0;
     }
+    if (tooLong)
+        std::_Exit(EXIT_FAILURE);
 }
 
-Worker::Worker(const std::function<void(MessageWriter&)>& work, int patienceMs) : patienceMs_(patienceMs) {
+QString memorySentence() {
+    return QStringLiteral("reading it took more than %1 MB of memory").arg(workerMegabytes);
+}
+
+Worker::Worker(const std::function<void(MessageWriter&)>& work, ReadBudget& budget) : budget_(budget) {
     std::array<int, 2> ends{};
     if (pipe2(ends.data(), O_CLOEXEC) != 0)
         throw ReadError(QStringLiteral("no pipe to a reader could be made"));
@@ -205,7 +233,11 @@ bool Worker::fill(qsizetype size) {
     std::array<char, 65536> buffer{};
     while (received_.size() < size) {
         pollfd waiting{pipe_, POLLIN, 0};
-        const int ready = poll(&waiting, 1, patienceMs_);
+        QElapsedTimer waited;
+        waited.start();
+        const auto patience = std::clamp<qint64>(budget_.leftMs, 0, budget_.patienceMs);
+        const int ready = poll(&waiting, 1, static_cast<int>(patience));
+        budget_.leftMs -= waited.elapsed();
         late_ = ready == 0;
         if (late_ || (ready < 0 && errno != EINTR))
             return false;
@@ -230,8 +262,17 @@ std::optional<Message> Worker::read() {
     return Message::decoded(content);
 }
 
-QString Worker::epitaph() const {
-    return late_ ? QStringLiteral("reading it came to no end") : QStringLiteral("reading it broke down");
+QString Worker::epitaph() {
+    if (late_ && budget_.leftMs <= 0)
+        return QStringLiteral("reading it took longer than %1 seconds").arg((budget_.wholeMs + 500) / 1000);
+    if (late_)
+        return QStringLiteral("reading it came to no end");
+    int status = 0;
+    kill(process_, SIGKILL);
+    waitpid(std::exchange(process_, -1), &status, 0);
+    // The library under the reader ends so where there is no memory for it.
+    return WIFSIGNALED(status) && WTERMSIG(status) == SIGTRAP ? memorySentence()
+                                                              : QStringLiteral("reading it broke down");
 }
 
 }  // namespace tools

@@ -41,10 +41,24 @@ class MessageWriter {
     int pipe_;
 };
 
+/// How long a file may still be waited for: for its next row, and for all rows together.
+struct ReadBudget {
+    int patienceMs = 0;
+    qint64 leftMs = 0;
+    qint64 wholeMs = 0;
+};
+
+/// The memory that a worker may take for itself, and what it may tell in one message.
+inline constexpr int workerMegabytes = 512;
+inline constexpr int messageMegabytes = 64;
+/// What is said of a file that asks for more.
+QString memorySentence();
+
 /// A process that does one piece of work and tells its results. It ends with its owner.
 class Worker {
    public:
-    Worker(const std::function<void(MessageWriter&)>& work, int patienceMs);
+    /// The time that is waited for it is taken from the budget, which lives longer than the worker.
+    Worker(const std::function<void(MessageWriter&)>& work, ReadBudget& budget);
     ~Worker();
     Worker(const Worker&) = delete;
     Worker& operator=(const Worker&) = delete;
@@ -52,14 +66,14 @@ class Worker {
     /// The next message; nothing where the worker broke down or took too long.
     std::optional<Message> read();
     /// Why there is no further message.
-    QString epitaph() const;
+    QString epitaph();
 
    private:
     bool fill(qsizetype size);
 
     int pipe_ = -1;
     int process_ = -1;
-    int patienceMs_;
+    ReadBudget& budget_;
     bool late_ = false;
     QByteArray received_;
 };

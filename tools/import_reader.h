@@ -12,7 +12,18 @@
 namespace tools {
 
 /// What a field of an Access table holds, as far as a copy has to tell kinds apart.
-enum class SourceType { Boolean, Integer, Number, Decimal, Date, Text, Binary, Identifier, Unknown };
+enum class SourceType {
+    Boolean,
+    Integer,
+    Number,
+    Decimal,
+    Date,
+    Text,
+    Binary,
+    Identifier,
+    Calculated,
+    Unknown
+};
 
 struct SourceColumn {
     QString name;

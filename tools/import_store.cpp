@@ -79,6 +79,11 @@ void TableCopy::create() {
             tell(0, column.name,
                  QStringLiteral("the field type %1 is not known, its values are left out")
                      .arg(column.typeCode));
+        if (column.type == SourceType::Calculated)
+            tell(0, column.name,
+                 QStringLiteral(
+                     "Access calculates the values of this field, and they are left out; in Access, "
+                     "make it a field that stores them"));
     }
     store_.exec(QStringLiteral("CREATE TABLE %1 (%2)")
                     .arg(quotedName(table_.name), columns.join(QStringLiteral(", ")))

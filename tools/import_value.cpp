@@ -43,6 +43,7 @@ StoreKind storeKind(SourceType type, const core::FieldShape* known) {
         case SourceType::Date:
         case SourceType::Text:
         case SourceType::Identifier:
+        case SourceType::Calculated:
         case SourceType::Unknown: break;
     }
     return StoreKind::Text;

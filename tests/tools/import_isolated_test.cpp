@@ -2,6 +2,8 @@
 
 #include "tools/import_isolated.h"
 
+#include <QElapsedTimer>
+
 #include <gtest/gtest.h>
 
 #include <unistd.h>
@@ -123,6 +125,47 @@ TEST(IsolatedReader, TakesARowOfAnyLength) {
     SourceRow row;
     ASSERT_TRUE(reader->nextRow(row));
     EXPECT_EQ(row.values[0].toString(), tips);
+}
+
+TEST(IsolatedReader, WaitsForAllRowsOfAFileNoLongerThanForAFewOfThem) {
+    QElapsedTimer time;
+    time.start();
+    const auto reader = isolated([] { pause(); }, 100);
+    QStringList sentences;
+    for (int table = 0; table < 20; ++table)
+        sentences.append(failureOf(*reader));
+    EXPECT_EQ(sentences.first(), QStringLiteral("the file is damaged: reading it came to no end"));
+    EXPECT_EQ(sentences.last(), QStringLiteral("the file is damaged: reading it took longer than 0 seconds"));
+    EXPECT_LT(time.elapsed(), 20 * 100);
+}
+
+#if !defined(__SANITIZE_ADDRESS__)
+
+TEST(IsolatedReader, RefusesAFileThatAsksForTooMuchMemory) {
+    const QString expected =
+        QStringLiteral("the file is damaged: reading it took more than 512 MB of memory");
+    EXPECT_EQ(failureOf(*isolated([] { std::vector<char>(std::size_t{600} << 20).front() = 'x'; })),
+              expected);
+    EXPECT_EQ(failureOf(*isolated([] { std::raise(SIGTRAP); })), expected);
+}
+
+#endif
+
+TEST(IsolatedReader, RefusesARowThatIsLongerThanAnyOfACourse) {
+    const auto reader = isolatedMaker([&](const QString&, int) {
+        FakeTable table;
+        table.shape = {QStringLiteral("t"), {{QStringLiteral("tips"), SourceType::Text, 12}}, 1};
+        table.rows = {row({QString(40 << 20, u'x')})};
+        return std::make_unique<FakeReader>(std::vector{table});
+    })(QStringLiteral("file"), unknownPage);
+    reader->openTable(QStringLiteral("t"));
+    SourceRow row;
+    try {
+        reader->nextRow(row);
+        FAIL();
+    } catch (const ReadError& error) {
+        EXPECT_EQ(error.sentence(), QStringLiteral("the file is damaged: a row is longer than 64 MB"));
+    }
 }
 
 }  // namespace
