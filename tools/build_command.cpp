@@ -50,6 +50,8 @@ int runBuild(const QStringList& arguments) {
     InstallPlan plan;
     plan.root = call.value(rootOption);
     plan.courseFolder = call.positionalArguments().value(0, starterFolder());
+    if (const QString problem = folderProblem(plan.root); !problem.isEmpty())
+        return line.wrongCall(QStringLiteral("--root: %1").arg(problem));
     if (!QFileInfo(plan.courseFolder).isDir())
         return line.wrongCall(QStringLiteral("there is no folder %1.").arg(plan.courseFolder));
     removeUnfinishedOnInterrupt();

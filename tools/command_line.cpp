@@ -3,6 +3,8 @@
 #include <QCoreApplication>
 #include <QDir>
 
+#include <algorithm>
+#include <csignal>
 #include <cstdio>
 
 namespace tools {
@@ -13,6 +15,8 @@ CommandLine::CommandLine(const QString& name, const QString& description)
     parser_.setApplicationDescription(description);
     // The parser's own option would bring another one along for options that no tool here has.
     parser_.addOption(help_);
+    // Where files may not grow, the write that meets the limit tells so; the tool is not ended by it.
+    std::signal(SIGXFSZ, SIG_IGN);
 }
 
 std::optional<int> CommandLine::parse(const QStringList& arguments) {
@@ -34,6 +38,29 @@ int CommandLine::wrongCall(const QString& sentence) const {
     std::fprintf(stderr, "%s: %s\n%s --help tells how it is called.\n", qUtf8Printable(name_),
                  qUtf8Printable(sentence), qUtf8Printable(name_));
     return exitWrongCall;
+}
+
+QString studentNumberProblem(const QString& number) {
+    constexpr qsizetype longest = 60;
+    static const QString signs = QStringLiteral("/\\:*?\"'<>|");
+    if (number.trimmed().isEmpty())
+        return QStringLiteral("a student number cannot be empty.");
+    if (number.size() > longest)
+        return QStringLiteral("a student number has %1 letters and digits at most.").arg(longest);
+    const bool plain = std::all_of(number.begin(), number.end(),
+                                   [](QChar letter) { return letter.isPrint() && !signs.contains(letter); });
+    QString shown = number;
+    for (QChar& letter : shown)
+        if (!letter.isPrint())
+            letter = u'?';
+    return plain && number == number.trimmed()
+               ? QString()
+               : QStringLiteral("a student number holds letters and digits, not '%1'.").arg(shown);
+}
+
+QString folderProblem(const QString& folder) {
+    return folder.trimmed().isEmpty() ? QStringLiteral("a folder needs a name, and the one given is empty.")
+                                      : QString();
 }
 
 QString folderBesideProgram(const QString& relative) {

@@ -29,6 +29,12 @@ class CommandLine {
     QCommandLineOption help_;
 };
 
+/// Why a text cannot be a learner's student number, which names the file of the scores; empty where it can.
+QString studentNumberProblem(const QString& number);
+
+/// Why a text names no folder; empty where it may.
+QString folderProblem(const QString& folder);
+
 /// A folder beside the program: of a checkout whose builds lie in build/KIND/bin.
 QString folderBesideProgram(const QString& relative);
 

@@ -193,10 +193,19 @@ CourseSource readCourse(const QString& folder, Damages* damages) {
     if (course.tables.empty() && (damages == nullptr || damages->empty()))
         throw SourceError({folder, 0, {}}, QStringLiteral("the folder holds no course"),
                           QStringLiteral("a folder with topic.csv and unit01, unit02 …"));
-    if (!holdsTables(dir, QStringLiteral("topic")))
+    const QString topic = QStringLiteral("topic");
+    const QString right = QStringLiteral("a table with number and name of each unit");
+    if (!holdsTables(dir, topic))
         complain(damages, {{QStringLiteral("topic.csv"), 0, {}},
                            QStringLiteral("the table is missing, so that the course has no unit"),
-                           QStringLiteral("a table with number and name of each unit")});
+                           right});
+    const auto topics = course.named(topic);
+    const bool empty = std::all_of(topics.begin(), topics.end(),
+                                   [](const CourseSource::UnitTable* t) { return t->table.rows.empty(); });
+    if (!topics.empty() && empty)
+        complain(damages, {{QStringLiteral("topic.csv"), 1, {}},
+                           QStringLiteral("the table has no row, so that the course has no unit"),
+                           right});
     return course;
 }
 

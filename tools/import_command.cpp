@@ -79,6 +79,8 @@ int runImport(const QStringList& args, const InstallCheck& check) {
     options.salvage = call.isSet(salvageOption);
     if (!isCodePage(call.value(codePageOption), options.codePage))
         return line.wrongCall(QStringLiteral("'%1' is no code page.").arg(call.value(codePageOption)));
+    if (const QString problem = folderProblem(options.root); !problem.isEmpty())
+        return line.wrongCall(QStringLiteral("--root: %1").arg(problem));
     if (!QFileInfo::exists(options.from))
         return line.wrongCall(QStringLiteral("there is no %1.").arg(options.from));
 

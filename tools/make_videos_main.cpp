@@ -2,6 +2,7 @@
 
 #include "core/startup.h"
 #include "platform/settings.h"
+#include "tools/command_line.h"
 #include "tools/video_maker.h"
 #include "tools/video_texts.h"
 
@@ -59,6 +60,11 @@ int main(int argc, char** argv) {
 
     const platform::UserSettings settings;
     const QString drives = parser.isSet(root) ? parser.value(root) : core::drivesRoot(settings);
+    if (const QString problem = tools::folderProblem(parser.isSet(folder) ? parser.value(folder) : drives);
+        !problem.isEmpty()) {
+        std::fprintf(stderr, "make_videos: %s\n", qPrintable(problem));
+        return tools::exitWrongCall;
+    }
     tools::VideoPlan plan;
     plan.folder = parser.isSet(folder) ? parser.value(folder) : videoFolder(drives);
     plan.makeAll = parser.isSet(all);

@@ -109,9 +109,13 @@ int main(int argc, char** argv) {
     plan.userId = newUser.isEmpty() ? knownUser : newUser;
     plan.speakWords = !parser.isSet(options.silent);
     plan.progress = showProgress;
-    if (plan.userId.contains(u'\'') || plan.userId.contains(u'/') || plan.userId.contains(u'\\'))
-        return line.wrongCall(
-            QStringLiteral("a student number holds letters and digits, not '%1'.").arg(plan.userId));
+    if (const QString problem = tools::folderProblem(plan.root); !problem.isEmpty())
+        return line.wrongCall(QStringLiteral("--root: %1").arg(problem));
+    if (parser.isSet(options.userId) || !plan.userId.isEmpty())
+        if (const QString problem = tools::studentNumberProblem(
+                parser.isSet(options.userId) ? parser.value(options.userId) : plan.userId);
+            !problem.isEmpty())
+            return line.wrongCall(problem);
     tools::removeUnfinishedOnInterrupt();
     try {
         tools::makeInstall(plan);

@@ -39,7 +39,8 @@ struct Collector {
     }
 
     void addField(const QByteArray& bytes) {
-        QStringDecoder decoder(QStringDecoder::Utf8);
+        // Each field stands alone, so that a character that is cut off at its end is told too.
+        QStringDecoder decoder(QStringDecoder::Utf8, QStringDecoder::Flag::Stateless);
         const QString text = decoder(bytes);
         if (decoder.hasError())
             stop(QStringLiteral("the text is not UTF-8"), savedAsUtf8);
@@ -167,6 +168,9 @@ QString TableFile::field(const TableRow& row, const QString& name) const {
 
 TableFile readTableFile(const QString& path, const QString& shownName, Damages* damages) {
     QFile file(path);
+    if (!QFileInfo(path).isFile())
+        throw SourceError({shownName, 0, {}}, QStringLiteral("it is no regular file"),
+                          QStringLiteral("a text table"));
     if (!file.open(QIODevice::ReadOnly))
         throw SourceError({shownName, 0, {}}, QStringLiteral("the file cannot be read"),
                           QStringLiteral("a file that its owner may read"));

@@ -2,6 +2,9 @@
 
 #include "tools/build_command.h"
 #include "tools/check_command.h"
+#include "tools/command_line.h"
+#include "tools/export_command.h"
+#include "tools/import_command.h"
 #include "tools/install.h"
 
 #include <QDir>
@@ -172,6 +175,52 @@ TEST_F(CourseCommands, BuildLeavesForeignFoldersAlone) {
     EXPECT_EQ(run(tools::runBuild, {QStringLiteral("--root"), root, course}).status, 1);
     EXPECT_EQ(QDir(root).entryList(QDir::AllEntries | QDir::NoDotAndDotDot),
               QStringList{QStringLiteral("letter.txt")});
+}
+
+TEST_F(CourseCommands, ATopicTableWithoutARowIsToldInOneSentence) {
+    QFile topic(course + QStringLiteral("/topic.csv"));
+    ASSERT_TRUE(topic.open(QIODevice::WriteOnly));
+    topic.write("topicno,Title\n");
+    topic.close();
+    const Ending ending = run(tools::runBuild, {QStringLiteral("--root"), root, course});
+    EXPECT_EQ(ending.status, 1);
+    EXPECT_TRUE(
+        contains(ending.error, "topic.csv:1: error: the table has no row, so that the course has no unit"))
+        << ending.error;
+}
+
+TEST_F(CourseCommands, ATableThatIsADeviceIsNotRead) {
+    const QString table = course + QStringLiteral("/unit01/newword.csv");
+    QFile::remove(table);
+    ASSERT_TRUE(QFile::link(QStringLiteral("/dev/zero"), table));
+    const Ending ending = run(tools::runCheck, {course});
+    EXPECT_EQ(ending.status, 1);
+    EXPECT_TRUE(contains(ending.out, "newword.csv: error: it is no regular file")) << ending.out;
+}
+
+TEST_F(CourseCommands, AnEmptyNameForTheRootIsAWrongCall) {
+    for (int (*command)(const QStringList&) : {tools::runBuild, tools::runCheck, tools::runExportScores}) {
+        const Ending ending =
+            run(command, {QStringLiteral("--root"), QString(), QStringLiteral("--csv"), QStringLiteral("-")});
+        EXPECT_EQ(ending.status, 2);
+    }
+    const Ending build = run(tools::runBuild, {QStringLiteral("--root"), QString(), course});
+    EXPECT_EQ(build.status, 2);
+    EXPECT_TRUE(contains(build.error, "--root: a folder needs a name, and the one given is empty."))
+        << build.error;
+    const auto import = [](const QStringList& arguments) { return tools::runImport(arguments); };
+    EXPECT_EQ(run(import, {QStringLiteral("--root"), QString(), course}).status, 2);
+}
+
+TEST(StudentNumber, IsRefusedInOneSentenceWhereItCannotNameAFile) {
+    for (const char* number : {"1001", "2002-1", "kim.haneul", "김하늘", "a_b@c"})
+        EXPECT_EQ(tools::studentNumberProblem(QString::fromUtf8(number)), QString()) << number;
+    EXPECT_EQ(tools::studentNumberProblem(QString()), QStringLiteral("a student number cannot be empty."));
+    EXPECT_EQ(tools::studentNumberProblem(QStringLiteral("10\n01")),
+              QStringLiteral("a student number holds letters and digits, not '10?01'."));
+    for (const char* number : {" ", "..\\x", "../x", "a'b", "1:2", "x\ty", " 1001", "1001 ", "1*", "\x7f"})
+        EXPECT_FALSE(tools::studentNumberProblem(QString::fromUtf8(number)).isEmpty()) << number;
+    EXPECT_FALSE(tools::studentNumberProblem(QString(200, u'1')).isEmpty());
 }
 
 }  // namespace

@@ -106,4 +106,12 @@ TEST(TableFile, TellsAFileThatIsNotThere) {
     EXPECT_THROW(readTableFile(QStringLiteral("/no/such/file.csv"), name), SourceError);
 }
 
+TEST(TableFile, TellsACharacterThatIsCutOffAtTheEnd) {
+    const QString expected = QStringLiteral("unit01/newword.csv:2, field 'korean': the text is not UTF-8");
+    for (const char* cut : {"\xEA", "\xEA\xB3", "\xF0\x9F\x99", "cat\xC3"})
+        for (const char* end : {"", "\n"})
+            EXPECT_EQ(wrong(QByteArray("recordno,word,korean\n1,cat,") + cut + end), expected);
+    EXPECT_EQ(wrong("recordno,wor\xC3\n"), QStringLiteral("unit01/newword.csv:1: the text is not UTF-8"));
+}
+
 }  // namespace
