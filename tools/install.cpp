@@ -7,6 +7,7 @@
 #include "tools/replace_store.h"
 #include "tools/root_hold.h"
 #include "tools/store_writer.h"
+#include "tools/unfinished_file.h"
 #include "tools/wave.h"
 
 #include <QCryptographicHash>
@@ -17,6 +18,7 @@
 #include <QFileInfo>
 
 #include <array>
+#include <cstdio>
 
 namespace tools {
 
@@ -198,9 +200,12 @@ class Installer {
         if (target.exists() && target.size() == source.size() &&
             target.lastModified() >= source.lastModified())
             return;
-        QFile::remove(to);
-        if (!QFile::copy(from, to))
-            refuse(QStringLiteral("%1 cannot be copied to %2.").arg(from, to));
+        const UnfinishedFile half(to + QStringLiteral(".new"));
+        QFile file(from);
+        if (!file.copy(half.name()))
+            refuse(QStringLiteral("%1 cannot be copied to %2: %3.").arg(from, to, file.errorString()));
+        if (std::rename(QFile::encodeName(half.name()).constData(), QFile::encodeName(to).constData()) != 0)
+            refuse(QStringLiteral("%1 cannot be written.").arg(to));
     }
 
     void copyFolder(const QString& from, const QString& pattern, const QString& to) const {

@@ -6,6 +6,8 @@
 #include <QProcess>
 #include <QStandardPaths>
 
+#include <algorithm>
+
 namespace tools {
 
 namespace {
@@ -28,6 +30,13 @@ bool speak(const QString& program, const QString& word, const QString& file) {
     return writeWave(file, wave);
 }
 
+/// A word of the course names a file of its own folder and never one elsewhere.
+bool namesAFile(const QString& word) {
+    return !word.isEmpty() && std::all_of(word.begin(), word.end(), [](QChar letter) {
+        return letter.isPrint() && letter != u'/' && letter != u'\\' && letter != u':';
+    });
+}
+
 }  // namespace
 
 int speakWords(const QStringList& words, const QString& folder,
@@ -37,7 +46,8 @@ int speakWords(const QStringList& words, const QString& folder,
     int done = 0;
     for (const QString& word : words) {
         const QString file = folder + u'/' + word + QStringLiteral(".wav");
-        if (!QFile::exists(file) && (program.isEmpty() || !speak(program, word, file)))
+        const bool can = !program.isEmpty() && namesAFile(word);
+        if (!QFile::exists(file) && !(can && speak(program, word, file)))
             ++silent;
         if (progress)
             progress(QStringLiteral("word sounds"), ++done, static_cast<int>(words.size()));

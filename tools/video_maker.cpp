@@ -14,6 +14,7 @@
 
 #include <algorithm>
 #include <condition_variable>
+#include <cstdio>
 #include <mutex>
 #include <stdexcept>
 #include <thread>
@@ -138,7 +139,9 @@ class Recipe {
         }
         // The list's last duration only counts when another picture follows.
         lines += QStringLiteral("file '%1'\n").arg(name);
-        list.write(lines.toLatin1());
+        const QByteArray bytes = lines.toLatin1();
+        if (list.write(bytes) != bytes.size() || !list.flush())
+            throw std::runtime_error("the temporary folder is full");
     }
     void encode(const QString& video) const {
         const QString half = video + QStringLiteral(".new");
@@ -163,9 +166,10 @@ class Recipe {
             throw std::runtime_error("ffmpeg failed: " +
                                      (reason.isEmpty() ? ffmpeg.errorString() : reason).toStdString());
         }
-        QFile::remove(video);
-        if (!QFile::rename(half, video))
+        if (std::rename(QFile::encodeName(half).constData(), QFile::encodeName(video).constData()) != 0) {
+            QFile::remove(half);
             throw std::runtime_error("the file cannot be put in place");
+        }
     }
 
     const VideoText& text_;

@@ -143,3 +143,14 @@ TEST_F(Rebuild, TheScoresAreReadByTheirOwnerAlone) {
         QFile::setPermissions(scores, QFile::permissions(scores) | QFile::ReadOther);
     }
 }
+
+TEST_F(Rebuild, WordsAreSpokenIntoTheirOwnFolderAlone) {
+    const QString sounds = folder.filePath(QStringLiteral("sounds"));
+    QDir().mkpath(sounds + QStringLiteral("/deeper"));
+    const QStringList before = QDir(folder.path()).entryList(QDir::AllEntries | QDir::Hidden);
+    const QStringList words{"../cat", "deeper/cat", "..\\cat", "C:cat", "", "ca\nt", folder.filePath("cat")};
+    EXPECT_EQ(tools::speakWords(words, sounds, {}), words.size());
+    EXPECT_EQ(QDir(folder.path()).entryList(QDir::AllEntries | QDir::Hidden), before);
+    EXPECT_TRUE(QDir(sounds + QStringLiteral("/deeper")).isEmpty());
+    EXPECT_TRUE(QDir(sounds).entryList(QDir::Files | QDir::Hidden).isEmpty());
+}
