@@ -1,8 +1,10 @@
 #include "platform/report_paint.h"
 
 #include "platform/look.h"
+#include "platform/pdf_blanks.h"
+#include "platform/whole_file.h"
 
-#include <QFileInfo>
+#include <QBuffer>
 #include <QPdfWriter>
 
 namespace platform {
@@ -108,16 +110,24 @@ QString paintReportPages(QPagedPaintDevice& device, const ReportLayout& layout, 
     return {};
 }
 
+QString writeReportPdf(const QString& file, const ReportLayout& layout, int first, int last) {
+    // The writer tells of no failure of its device, so that it gets one that has none.
+    QBuffer pages;
+    pages.open(QIODevice::WriteOnly);
+    QString problem;
+    {
+        QPdfWriter writer(&pages);
+        writer.setResolution(pdfResolution);
+        writer.setPageSize(layout.pageSize);
+        writer.setPageMargins(QMarginsF());
+        writer.setTitle(layout.name);
+        problem = paintReportPages(writer, layout, first, last);
+    }
+    return problem.isEmpty() ? writeWhole(file, withBlanks(pages.data())) : problem;
+}
+
 QString writeReportPdf(const QString& file, const ReportLayout& layout) {
-    QPdfWriter writer(file);
-    writer.setResolution(pdfResolution);
-    writer.setPageSize(layout.pageSize);
-    writer.setPageMargins(QMarginsF());
-    writer.setTitle(layout.name);
-    const QString problem = paintReportPages(writer, layout, 0, static_cast<int>(layout.pages.size()) - 1);
-    if (problem.isEmpty() && QFileInfo(file).size() == 0)
-        return QStringLiteral("Nothing was written.");
-    return problem;
+    return writeReportPdf(file, layout, 0, static_cast<int>(layout.pages.size()) - 1);
 }
 
 }  // namespace platform

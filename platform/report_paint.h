@@ -14,7 +14,9 @@ void paintReportPage(QPainter& painter, const ReportLayout& layout, int page, co
 /// when nothing did.
 QString paintReportPages(QPagedPaintDevice& device, const ReportLayout& layout, int first, int last);
 
-/// Writes all pages into a PDF file. Gives back what went wrong, empty when nothing did.
+/// Writes all pages, or pages `first` to `last`, into a PDF file, which appears whole or not at all. Gives
+/// back what went wrong, empty when nothing did.
 QString writeReportPdf(const QString& file, const ReportLayout& layout);
+QString writeReportPdf(const QString& file, const ReportLayout& layout, int first, int last);
 
 }  // namespace platform

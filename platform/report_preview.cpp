@@ -4,7 +4,6 @@
 #include "platform/report_paint.h"
 
 #include <QCloseEvent>
-#include <QFileDialog>
 #include <QGuiApplication>
 #include <QHBoxLayout>
 #include <QKeyEvent>
@@ -14,7 +13,6 @@
 #include <QScreen>
 #include <QScrollArea>
 #include <QScrollBar>
-#include <QStandardPaths>
 #include <QVBoxLayout>
 #include <QWheelEvent>
 
@@ -34,15 +32,6 @@ QRect previewPlace() {
     QRect place(0, 0, std::min(screen.width(), 1000), screen.height() - std::min(40, screen.height() / 20));
     place.moveCenter(screen.center());
     return place;
-}
-
-/// The report's name as a file's: signs that no file may be named with become dashes.
-QString fileName(QString name) {
-    static const QString signs = QStringLiteral("/\\:*?\"<>|");
-    for (QChar& letter : name)
-        if (signs.contains(letter) || letter.category() == QChar::Other_Control)
-            letter = u'-';
-    return name.trimmed() + QStringLiteral(".pdf");
 }
 
 }  // namespace
@@ -177,6 +166,10 @@ void ReportPreview::print() {
 }
 
 void ReportPreview::printOn(const PrintJob& job) {
+    if (!job.pdfFile.isEmpty()) {
+        savePdf(job.pdfFile, job.first, job.last);
+        return;
+    }
     QString problem = QStringLiteral("There is no printer.");
     if (job.device != nullptr)
         problem = paintReportPages(*job.device, layout_, job.first, job.last);
@@ -189,22 +182,13 @@ void ReportPreview::printOn(const PrintJob& job) {
 }
 
 void ReportPreview::saveAsPdf() {
-    auto* dialog = new QFileDialog(this, QStringLiteral("Save as PDF"),
-                                   QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation),
-                                   QStringLiteral("PDF (*.pdf)"));
-    dialog->setObjectName(QStringLiteral("dlgSavePdf"));
-    dialog->setAttribute(Qt::WA_DeleteOnClose);
-    dialog->setAcceptMode(QFileDialog::AcceptSave);
-    dialog->setDefaultSuffix(QStringLiteral("pdf"));
-    dialog->selectFile(fileName(layout_.name));
-    connect(dialog, &QFileDialog::fileSelected, this, &ReportPreview::savePdf);
-    dialog->open();
+    choosePdfFile(this, layout_, [this](const QString& file) { savePdf(file, 0, pageCount() - 1); });
 }
 
-void ReportPreview::savePdf(const QString& file) {
-    const QString problem = writeReportPdf(file, layout_);
+void ReportPreview::savePdf(const QString& file, int first, int last) {
+    const QString problem = writeReportPdf(file, layout_, first, last);
     if (!problem.isEmpty())
-        boxes_.notice(QStringLiteral("PDF 파일을 저장하지 못했습니다.\n\n") + file);
+        boxes_.notice(QStringLiteral("PDF 파일을 저장하지 못했습니다.\n\n%1\n%2").arg(file, problem));
 }
 
 void ReportPreview::keyPressEvent(QKeyEvent* event) {

@@ -15,21 +15,27 @@ class QScrollArea;
 
 namespace platform {
 
-/// A device that was chosen to print on, and which pages of the report it is to get, counted from 0.
+/// A device that was chosen to print on, or a PDF file that takes its place, and which pages of the report it
+/// is to get, counted from 0.
 struct PrintJob {
     std::shared_ptr<QPagedPaintDevice> device;
     int first = 0;
     int last = 0;
     /// What the device says went wrong once it has all pages; empty when nothing did.
     std::function<QString()> problem = {};
+    QString pdfFile = {};
 };
 
 /// Lets the user choose a printer, and hands the job on when one was chosen.
 using PrinterChoice =
     std::function<void(QWidget* owner, const ReportLayout& layout, std::function<void(PrintJob)> chosen)>;
 
-/// The desktop's print dialog.
+/// The desktop's print dialog; without any printer, a name for a PDF file is asked for instead.
 void choosePrinter(QWidget* owner, const ReportLayout& layout, std::function<void(PrintJob)> chosen);
+
+/// Asks for the name of a PDF file in the learner's documents folder, and hands it on when one was chosen.
+void choosePdfFile(QWidget* owner, const ReportLayout& layout,
+                   std::function<void(const QString& file)> chosen);
 
 class ReportSheet;
 
@@ -66,7 +72,7 @@ class ReportPreview final : public QWidget {
                            std::function<void()> click);
     void fitSheet();
     void printOn(const PrintJob& job);
-    void savePdf(const QString& file);
+    void savePdf(const QString& file, int first, int last);
 
     ReportLayout layout_;
     MessageBoxes& boxes_;

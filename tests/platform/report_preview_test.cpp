@@ -2,7 +2,9 @@
 
 #include "platform/error.h"
 #include "platform/report_paint.h"
+#include "platform/whole_file.h"
 #include "tests/support/desk.h"
+#include "tests/support/file_size_limit.h"
 
 #include <QDir>
 #include <QFile>
@@ -10,6 +12,9 @@
 #include <QImage>
 #include <QLabel>
 #include <QPdfWriter>
+#include <QPrintDialog>
+#include <QPrinterInfo>
+#include <QProcess>
 #include <QPushButton>
 
 #include <gtest/gtest.h>
@@ -196,6 +201,66 @@ TEST_F(ReportPreviewTest, AReportIsSavedAsPdfUnderItsName) {
     Q_EMIT dialog.fileSelected(QStringLiteral("/nowhere/at/all.pdf"));
     EXPECT_TRUE(desk_.boxes.lastText().startsWith(QStringLiteral("PDF 파일을 저장하지 못했습니다.")));
     EXPECT_TRUE(window->isVisible());
+}
+
+TEST_F(ReportPreviewTest, APdfThatCannotBeWrittenWholeIsToldAndTheOlderFileStays) {
+    addRows(200);
+    ReportPreview* window = start();
+    const QString file = desk_.root() + QStringLiteral("/saved.pdf");
+    const QByteArray older = "%PDF-older";
+    ASSERT_EQ(platform::writeWhole(file, older), QString());
+    support::click(find(window, QStringLiteral("cmdSavePdf")));
+    auto& dialog = find<QFileDialog>(window, QStringLiteral("dlgSavePdf"));
+    {
+        const support::FileSizeLimit limit(8192);
+        Q_EMIT dialog.fileSelected(file);
+    }
+    ASSERT_EQ(desk_.boxes.shown.size(), 1U);
+    EXPECT_TRUE(desk_.boxes.lastText().startsWith(QStringLiteral("PDF 파일을 저장하지 못했습니다.")));
+    EXPECT_TRUE(desk_.boxes.lastText().contains(QStringLiteral("File too large")))
+        << desk_.boxes.lastText().toStdString();
+    QFile kept(file);
+    ASSERT_TRUE(kept.open(QIODevice::ReadOnly));
+    EXPECT_EQ(kept.readAll(), older);
+    EXPECT_EQ(QDir(desk_.root()).entryList({QStringLiteral("saved*")}), QStringList{"saved.pdf"});
+}
+
+TEST_F(ReportPreviewTest, TheTextOfASavedPdfIsCopiedWithItsBlanks) {
+    addRows(2);
+    const QString file = desk_.root() + QStringLiteral("/saved.pdf");
+    start();
+    support::click(find(report_.window(), QStringLiteral("cmdSavePdf")));
+    Q_EMIT find<QFileDialog>(report_.window(), QStringLiteral("dlgSavePdf")).fileSelected(file);
+    QFile saved(file);
+    ASSERT_TRUE(saved.open(QIODevice::ReadOnly));
+    const QByteArray characters = saved.readAll();
+    EXPECT_TRUE(characters.contains("<006E> <0065> <0020>")) << "line";
+    QProcess reader;
+    reader.start(QStringLiteral("pdftotext"), {file, QStringLiteral("-")});
+    if (!reader.waitForStarted())
+        GTEST_SKIP() << "pdftotext is not installed";
+    ASSERT_TRUE(reader.waitForFinished());
+    const QString text = QString::fromUtf8(reader.readAllStandardOutput());
+    EXPECT_TRUE(text.contains(QStringLiteral("line 2"))) << text.toStdString();
+    EXPECT_FALSE(text.contains(QChar(1)));
+}
+
+TEST_F(ReportPreviewTest, WithoutAPrinterAPdfFileInTheDocumentsFolderIsOffered) {
+    ASSERT_TRUE(QPrinterInfo::availablePrinterNames().isEmpty()) << "this test wants a machine without one";
+    addRows(3);
+    const QString documents = desk_.root() + QStringLiteral("/Documents");
+    QDir().mkpath(documents);
+    qputenv("HOME", desk_.root().toUtf8());
+    ReportPreview* window = start();
+    support::click(find(window, QStringLiteral("cmdPrint")));
+    EXPECT_EQ(window->findChild<QPrintDialog*>(), nullptr);
+    auto& dialog = find<QFileDialog>(window, QStringLiteral("dlgSavePdf"));
+    EXPECT_EQ(dialog.selectedFiles().value(0), documents + QStringLiteral("/This - my list.pdf"));
+    Q_EMIT dialog.fileSelected(documents);
+    EXPECT_TRUE(desk_.boxes.lastText().startsWith(QStringLiteral("PDF 파일을 저장하지 못했습니다.")));
+    Q_EMIT dialog.fileSelected(documents + QStringLiteral("/sheet.pdf"));
+    EXPECT_EQ(desk_.boxes.shown.size(), 1U);
+    EXPECT_GT(QFileInfo(documents + QStringLiteral("/sheet.pdf")).size(), 1000);
 }
 
 TEST_F(ReportPreviewTest, AReportThatWasNotPreparedOrHasNoFileIsRefused) {
