@@ -2,16 +2,20 @@
 
 #include "core/startup.h"
 #include "platform/look.h"
+#include "platform/pdf_blanks.h"
 #include "platform/settings.h"
+#include "platform/whole_file.h"
 #include "tools/command_line.h"
 #include "tools/export_page.h"
 #include "tools/export_scores.h"
 
+#include <QBuffer>
 #include <QFileInfo>
 #include <QPdfWriter>
-#include <QSaveFile>
 
+#include <cerrno>
 #include <cstdio>
+#include <cstring>
 
 namespace tools {
 
@@ -31,28 +35,36 @@ const QCommandLineOption pdfOption(QStringLiteral("pdf"),
                                    QStringLiteral("Write the printable pages to this file."),
                                    QStringLiteral("file"));
 
-bool writeCsv(const QString& file, const QByteArray& csv) {
-    if (file == QStringLiteral("-"))
-        return std::fwrite(csv.constData(), 1, static_cast<std::size_t>(csv.size()), stdout) ==
-               static_cast<std::size_t>(csv.size());
-    QSaveFile saved(file);
-    return saved.open(QIODevice::WriteOnly) && saved.write(csv) == csv.size() && saved.commit();
+/// Why a table or page cannot be written, empty when it is.
+QString writeCsv(const QString& file, const QByteArray& csv) {
+    if (file != QStringLiteral("-"))
+        return platform::writeWhole(file, csv);
+    const auto size = static_cast<std::size_t>(csv.size());
+    const bool whole = std::fwrite(csv.constData(), 1, size, stdout) == size && std::fflush(stdout) == 0;
+    return whole ? QString() : QString::fromLocal8Bit(std::strerror(errno));
 }
 
-bool writePdf(const QString& file, const std::vector<LearnerScores>& learners) {
-    QSaveFile saved(file);
-    if (!saved.open(QIODevice::WriteOnly))
-        return false;
+QString writePdf(const QString& file, const std::vector<LearnerScores>& learners) {
+    // The writer tells of no failure of its device, so that it gets one that has none.
+    QBuffer pages;
+    pages.open(QIODevice::WriteOnly);
     {
-        QPdfWriter writer(&saved);
+        QPdfWriter writer(&pages);
         writer.setPageLayout(
             QPageLayout(QPageSize(QPageSize::A4), QPageLayout::Portrait, QMarginsF(0, 0, 0, 0)));
         writer.setResolution(resolution);
         writer.setTitle(QStringLiteral("Scores"));
         if (printScores(writer, learners) == 0)
-            return false;
+            return QStringLiteral("no page could be made");
     }
-    return saved.commit();
+    return platform::writeWhole(file, platform::withBlanks(pages.data()));
+}
+
+/// "scores.csv cannot be written: No space left on device."
+void tellFailure(QStringList& problems, const QString& file, const QString& reason) {
+    if (!reason.isEmpty())
+        problems.append(QStringLiteral("%1 cannot be written: %2%3")
+                            .arg(file, reason, reason.endsWith(u'.') ? QString() : QStringLiteral(".")));
 }
 
 }  // namespace
@@ -70,6 +82,8 @@ int runExportScores(const QStringList& args) {
         return line.wrongCall(QStringLiteral("it wants a file with --csv, with --pdf, or with both."));
     const platform::UserSettings settings;
     const QString root = call.isSet(rootOption) ? call.value(rootOption) : core::drivesRoot(settings);
+    if (const QString problem = folderProblem(root); !problem.isEmpty())
+        return line.wrongCall(QStringLiteral("--root: %1").arg(problem));
     if (!QFileInfo(root).isDir())
         return line.wrongCall(QStringLiteral("there is no folder %1.").arg(root));
 
@@ -77,12 +91,11 @@ int runExportScores(const QStringList& args) {
     QStringList problems;
     const auto learners =
         readScores({drives, core::applicationFolder(settings, drives)}, call.value(studentOption), problems);
-    if (!learners.empty() && call.isSet(csvOption) && !writeCsv(call.value(csvOption), scoresAsCsv(learners)))
-        problems.append(QStringLiteral("%1 cannot be written.").arg(call.value(csvOption)));
+    if (!learners.empty() && call.isSet(csvOption))
+        tellFailure(problems, call.value(csvOption), writeCsv(call.value(csvOption), scoresAsCsv(learners)));
     if (!learners.empty() && call.isSet(pdfOption)) {
         platform::setUpLook();
-        if (!writePdf(call.value(pdfOption), learners))
-            problems.append(QStringLiteral("%1 cannot be written.").arg(call.value(pdfOption)));
+        tellFailure(problems, call.value(pdfOption), writePdf(call.value(pdfOption), learners));
     }
     for (const QString& problem : problems)
         std::fprintf(stderr, "course export-scores: %s\n", qUtf8Printable(problem));

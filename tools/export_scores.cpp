@@ -137,7 +137,16 @@ void readLearners(SQLite::Database& store, const QString& studentNo, const Cours
         learners[i].units = unitsOf(learners[i].steps, titles);
 }
 
+/// A spreadsheet takes a cell that begins so for a formula and runs it; the apostrophe keeps it a text. The
+/// wide forms count in spreadsheets of East Asia.
+bool readsAsFormula(const QString& text) {
+    static const QString signs = QStringLiteral("=+-@\t\r\uFF1D\uFF0B\uFF0D\uFF20");
+    return !text.isEmpty() && signs.contains(text.front());
+}
+
 QString csvField(QString text) {
+    if (readsAsFormula(text))
+        text.prepend(u'\'');
     if (!text.contains(u',') && !text.contains(u'"') && !text.contains(u'\n') && !text.contains(u'\r'))
         return text;
     return u'"' + text.replace(u'"', QStringLiteral("\"\"")) + u'"';

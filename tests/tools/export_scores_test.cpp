@@ -168,4 +168,29 @@ TEST(ScorePages, BeginANewPageForEachLearner) {
     EXPECT_EQ(printScores(writer, {learner, learner}), 4);
 }
 
+TEST_F(ExportScores, LetNoCellBeRunAsAFormula) {
+    addScore(
+        "1,1,1,'+1','=HYPERLINK(\"http://"
+        "x\")','-2+3','@SUM(A1)','\t=1',100,'','2026-01-02','=1+1','Tovalin1',"
+        "'＝cmd'");
+    const QString line = QString::fromUtf8(scoresAsCsv(read())).split(QStringLiteral("\r\n")).at(1);
+    EXPECT_EQ(line,
+              QStringLiteral("'=1+1,'＝cmd,Tovalin1,1,명사,1,1,'+1,\"'=HYPERLINK(\"\"http://x\"\")\",'-2+3,"
+                             "'@SUM(A1),'\t=1,100,,finished,2026-01-02"));
+}
+
+TEST_F(ExportScores, NeverReplaceADeviceAndSayWhyTheyCannotBeWritten) {
+    addScore(firstStep);
+    const QString link = file("scores.csv");
+    ASSERT_TRUE(QFile::link(QStringLiteral("/dev/full"), link));
+    for (const char* option : {"--csv", "--pdf"}) {
+        testing::internal::CaptureStderr();
+        EXPECT_EQ(runExportScores({QStringLiteral("--root"), desk_.root(), QLatin1String(option), link}), 1);
+        const std::string told = testing::internal::GetCapturedStderr();
+        EXPECT_NE(told.find("scores.csv cannot be written: No space left on device."), std::string::npos)
+            << told;
+        EXPECT_TRUE(QFileInfo(link).isSymLink());
+    }
+}
+
 }  // namespace
