@@ -268,11 +268,14 @@ QString Worker::epitaph() {
     if (late_)
         return QStringLiteral("reading it came to no end");
     int status = 0;
+    rusage used{};
     kill(process_, SIGKILL);
-    waitpid(std::exchange(process_, -1), &status, 0);
-    // The library under the reader ends so where there is no memory for it.
-    return WIFSIGNALED(status) && WTERMSIG(status) == SIGTRAP ? memorySentence()
-                                                              : QStringLiteral("reading it broke down");
+    wait4(std::exchange(process_, -1), &status, 0, &used);
+    // The library under the reader breaks down in many ways where there is no memory for it.
+    constexpr long nearlyAll = long{workerMegabytes} * 1024 / 10 * 9;
+    return WIFSIGNALED(status) && (WTERMSIG(status) == SIGTRAP || used.ru_maxrss > nearlyAll)
+               ? memorySentence()
+               : QStringLiteral("reading it broke down");
 }
 
 }  // namespace tools

@@ -147,6 +147,12 @@ TEST(IsolatedReader, RefusesAFileThatAsksForTooMuchMemory) {
     EXPECT_EQ(failureOf(*isolated([] { std::vector<char>(std::size_t{600} << 20).front() = 'x'; })),
               expected);
     EXPECT_EQ(failureOf(*isolated([] { std::raise(SIGTRAP); })), expected);
+    // As a library does that uses the last of it and breaks down over the next.
+    EXPECT_EQ(failureOf(*isolated([] {
+                  std::vector<char> most(std::size_t{470} << 20, 'x');
+                  std::raise(most.back() == 'x' ? SIGSEGV : SIGINT);
+              })),
+              expected);
 }
 
 #endif
