@@ -4,6 +4,7 @@
 #include "core/startup.h"
 #include "core/turn.h"
 #include "course/table_ahead.h"
+#include "platform/waiting.h"
 
 #include <QTimer>
 
@@ -37,7 +38,8 @@ bool Program::start() {
         !core::StartUp(context_, frame_))
         return false;
     // The panel that stands first only waits.
-    QTimer::singleShot(panelShown, &frame_, [this] { course::readTableAhead(context_); });
+    QTimer::singleShot(panelShown, &frame_,
+                       [this] { platform::later(&frame_, [this] { course::readTableAhead(context_); }); });
     return true;
 }
 

@@ -1,5 +1,7 @@
 #include "app/screen_loop.h"
 
+#include "platform/waiting.h"
+
 #include <QCoreApplication>
 
 #include <algorithm>
@@ -39,13 +41,10 @@ core::Screen* ScreenLoop::findStanding(const QString& screen) const {
 }
 
 void ScreenLoop::later(std::function<void()> work) {
-    QMetaObject::invokeMethod(
-        this,
-        [this, work = std::move(work)] {
-            if (!ended_)
-                work();
-        },
-        Qt::QueuedConnection);
+    platform::later(this, [this, work = std::move(work)] {
+        if (!ended_)
+            work();
+    });
 }
 
 void ScreenLoop::show(const QString& screen, const std::function<void()>& closed) {
@@ -57,6 +56,11 @@ void ScreenLoop::show(const QString& screen, const std::function<void()>& closed
     }
     // A form stands once: what a second press asks for before the first has opened it is there already.
     if (core::Screen* already = findStanding(screen)) {
+        if (closed)
+            already->onUnload = [this, closed, gone = already->onUnload] {
+                gone();
+                later(closed);
+            };
         already->raise();
         already->activateWindow();
         return;

@@ -4,6 +4,8 @@
 #include "core/stores.h"
 #include "course/walk.h"
 
+#include <QPointer>
+
 namespace course {
 
 using platform::TextRole;
@@ -86,7 +88,10 @@ void ExerciseScreen::tick() {
     if (!timerGo_->enabled() || isUnloaded())
         return;
     stayEnabled_ = false;
+    const QPointer<ExerciseScreen> alive(this);
     firstTick();
+    if (!alive)
+        return;
     // A timer that stays starts its interval anew, so that a message at each tick leaves room for a click.
     timerGo_->setEnabled(false);
     timerGo_->setEnabled(stayEnabled_ && !isUnloaded());

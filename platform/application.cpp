@@ -2,6 +2,7 @@
 
 #include "platform/error.h"
 #include "platform/message_box.h"
+#include "platform/waiting.h"
 
 #include <QMessageBox>
 
@@ -33,6 +34,10 @@ void endWithBox(const std::exception& failure) {
     std::_Exit(1);
 }
 
+bool isInput(const QEvent& event) {
+    return event.isInputEvent() || event.type() == QEvent::Shortcut || event.type() == QEvent::InputMethod;
+}
+
 }  // namespace
 
 QString failureText(const std::exception& failure) {
@@ -48,6 +53,8 @@ Application::Application(int& argc, char** argv) : QApplication(argc, argv), onF
 
 bool Application::notify(QObject* receiver, QEvent* event) {
     try {
+        if (receiver->isWidgetType() && Waiting::refusesInput() && isInput(*event))
+            return true;
         return QApplication::notify(receiver, event);
     } catch (const std::exception& failure) {
         onFailure(failure);

@@ -1,6 +1,7 @@
 #include "platform/controls.h"
 
 #include "platform/hangul.h"
+#include "platform/waiting.h"
 
 #include <QInputMethodEvent>
 #include <QKeyEvent>
@@ -162,21 +163,20 @@ void Label::mouseReleaseEvent(QMouseEvent* event) {
     event->accept();
     const bool clicked = pressed_ && event->button() == Qt::LeftButton && rect().contains(event->pos());
     pressed_ = false;
-    if (clicked && onClick)
-        onClick();
+    if (clicked)
+        run(onClick);
 }
 
 void Label::mouseMoveEvent(QMouseEvent* event) {
     event->accept();
-    if (onMouseMove)
-        onMouseMove();
+    run(onMouseMove);
 }
 
 void Label::keyPressEvent(QKeyEvent* event) {
     const bool presses =
         event->key() == Qt::Key_Space || event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
     if (presses && onClick && !event->isAutoRepeat())
-        onClick();
+        run(onClick);
     else
         QLabel::keyPressEvent(event);
 }
@@ -204,10 +204,7 @@ void Label::paintEvent(QPaintEvent* event) {
 TextBox::TextBox(QWidget* parent) : QLineEdit(parent) {
     setAttribute(Qt::WA_InputMethodEnabled, false);
     setContextMenuPolicy(Qt::NoContextMenu);
-    connect(this, &QLineEdit::textChanged, this, [this] {
-        if (onChange)
-            onChange();
-    });
+    connect(this, &QLineEdit::textChanged, this, [this] { run(onChange); });
 }
 
 void TextBox::setForeColor(QRgb colour) {
@@ -248,8 +245,8 @@ void TextBox::selectAndFocus() {
 
 void TextBox::keyPressEvent(QKeyEvent* event) {
     const int code = keyCode(event->key());
-    if (onKeyDown && code != 0)
-        onKeyDown(code);
+    if (code != 0)
+        run(onKeyDown, code);
     // Enter belongs to the form: it moves between boxes and never edits one.
     if (code == key::enter)
         return;
@@ -272,8 +269,8 @@ void TextBox::inputMethodEvent(QInputMethodEvent* event) {
 
 void TextBox::mouseReleaseEvent(QMouseEvent* event) {
     QLineEdit::mouseReleaseEvent(event);
-    if (event->button() == Qt::LeftButton && rect().contains(event->pos()) && onClick)
-        onClick();
+    if (event->button() == Qt::LeftButton && rect().contains(event->pos()))
+        run(onClick);
 }
 
 void TextBox::mouseMoveEvent(QMouseEvent* event) {
@@ -314,28 +311,19 @@ void StoryBox::resizeEvent(QResizeEvent* event) {
 
 DropList::DropList(QWidget* parent) : QComboBox(parent) {
     setMaxVisibleItems(16);
-    connect(this, &QComboBox::activated, this, [this] {
-        if (onClick)
-            onClick();
-    });
+    connect(this, &QComboBox::activated, this, [this] { run(onClick); });
 }
 
 CommandButton::CommandButton(const QString& caption, QWidget* parent) : QPushButton(caption, parent) {
     setAccessibleName(caption);
     setMouseTracking(true);
-    connect(this, &QPushButton::clicked, this, [this] {
-        if (onClick)
-            onClick();
-    });
+    connect(this, &QPushButton::clicked, this, [this] { run(onClick); });
 }
 
 PictureButton::PictureButton(QWidget* parent) : QAbstractButton(parent) {
     setMouseTracking(true);
     setFocusPolicy(Qt::TabFocus);
-    connect(this, &QAbstractButton::clicked, this, [this] {
-        if (onClick)
-            onClick();
-    });
+    connect(this, &QAbstractButton::clicked, this, [this] { run(onClick); });
 }
 
 void PictureButton::setPicture(const QPixmap& picture, const QString& fileName) {
@@ -357,14 +345,12 @@ void PictureButton::paintEvent(QPaintEvent*) {
 void PictureButton::mouseMoveEvent(QMouseEvent* event) {
     QAbstractButton::mouseMoveEvent(event);
     event->accept();
-    if (onMouseMove)
-        onMouseMove();
+    run(onMouseMove);
 }
 
 void PictureButton::enterEvent(QEnterEvent* event) {
     QAbstractButton::enterEvent(event);
-    if (onMouseMove)
-        onMouseMove();
+    run(onMouseMove);
 }
 
 }  // namespace platform

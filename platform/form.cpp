@@ -1,5 +1,7 @@
 #include "platform/form.h"
 
+#include "platform/waiting.h"
+
 #include <QApplication>
 #include <QCloseEvent>
 #include <QGuiApplication>
@@ -34,8 +36,7 @@ void Frame::paintEvent(QPaintEvent*) {
 
 void Frame::closeEvent(QCloseEvent* event) {
     event->ignore();
-    if (onCloseRequest)
-        onCloseRequest();
+    runOrLater(this, onCloseRequest);
 }
 
 Form::Form(const QString& name, QSize designSize, QWidget* frame)
@@ -163,7 +164,8 @@ void Form::unload() {
     // Without a window manager nobody hands the keyboard back to the window below.
     if (parentWidget() != nullptr)
         parentWidget()->window()->activateWindow();
-    deleteLater();
+    // A handler of this very form may be waiting, and goes on in it.
+    runOrLater(this, [this] { deleteLater(); });
     if (onUnload)
         onUnload();
 }
@@ -178,14 +180,12 @@ void Form::paintEvent(QPaintEvent*) {
 
 void Form::mouseMoveEvent(QMouseEvent* event) {
     event->accept();
-    if (onMouseMove)
-        onMouseMove();
+    run(onMouseMove);
 }
 
 void Form::closeEvent(QCloseEvent* event) {
     event->ignore();
-    if (onCloseRequest)
-        onCloseRequest();
+    runOrLater(this, onCloseRequest);
 }
 
 // A control that is hidden or disabled while it has the keyboard leaves it to the form: its neighbour in the

@@ -55,7 +55,8 @@ class Form : public QWidget {
     CommandButton& addButton(ControlArray<CommandButton>& array, const QRect& designRect,
                              const QString& caption);
 
-    /// Takes the form off the screen for good. The object goes when the event in hand is done.
+    /// Takes the form off the screen for good. The object goes when the event in hand is done, and after the
+    /// end of any handler that waits.
     void unload();
     bool isUnloaded() const { return unloaded_; }
 

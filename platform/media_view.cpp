@@ -1,6 +1,7 @@
 #include "platform/media_view.h"
 
 #include "platform/look.h"
+#include "platform/waiting.h"
 
 #include <QCoreApplication>
 #include <QFileInfo>
@@ -72,13 +73,10 @@ void MediaView::setUrl(const QString& url) {
     url_ = url;
     held_ = false;
     // The window comes up first: the first start of the media libraries takes longer than painting it.
-    QMetaObject::invokeMethod(
-        this,
-        [this, url] {
-            if (url == url_ && !player_ && !hasFailed())
-                start();
-        },
-        Qt::QueuedConnection);
+    later(this, [this, url] {
+        if (url == url_ && !player_ && !hasFailed())
+            start();
+    });
 }
 
 void MediaView::start() {

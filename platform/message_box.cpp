@@ -1,5 +1,7 @@
 #include "platform/message_box.h"
 
+#include "platform/waiting.h"
+
 #include <QApplication>
 #include <QCloseEvent>
 #include <QKeyEvent>
@@ -61,14 +63,17 @@ void dressBox(QMessageBox& box) {
 
 bool DesktopBoxes::show(const Message& message) {
     const QPointer<QWidget> asking = QApplication::activeWindow();
-    Box box(message.yesNo, asking);
-    box.setObjectName(QStringLiteral("messageBox"));
-    dressBox(box);
-    box.setText(message.text);
-    box.setIcon(boxIcon(message.icon));
-    box.setWindowTitle(message.title.isEmpty() ? defaultBoxTitle() : message.title);
-    box.setStandardButtons(message.yesNo ? QMessageBox::Yes | QMessageBox::No : QMessageBox::Ok);
-    const int answer = box.exec();
+    // Not on the stack: the window that asks owns the box, and takes it along should it go.
+    const QPointer<Box> box = new Box(message.yesNo, asking);
+    box->setObjectName(QStringLiteral("messageBox"));
+    dressBox(*box);
+    box->setText(message.text);
+    box->setIcon(boxIcon(message.icon));
+    box->setWindowTitle(message.title.isEmpty() ? defaultBoxTitle() : message.title);
+    box->setStandardButtons(message.yesNo ? QMessageBox::Yes | QMessageBox::No : QMessageBox::Ok);
+    const Waiting waiting(Waiting::Input::Box);
+    const int answer = box->exec();
+    delete box.data();
     // Not every desktop hands the keyboard back by itself, and then no box would show that it is in hand.
     if (asking && asking->isVisible())
         asking->activateWindow();

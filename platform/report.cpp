@@ -1,6 +1,7 @@
 #include "platform/report.h"
 
 #include "platform/error.h"
+#include "platform/waiting.h"
 
 #include <utility>
 
@@ -34,13 +35,7 @@ void Report::start() {
     window->onClosed = [this] {
         window_ = nullptr;
         // From the event loop, so that what the owner does next is not done inside a window that is going.
-        QMetaObject::invokeMethod(
-            this,
-            [this] {
-                if (onClosed)
-                    onClosed();
-            },
-            Qt::QueuedConnection);
+        later(this, [this] { run(onClosed); });
     };
     window->show();
     window->raise();

@@ -2,6 +2,7 @@
 
 #include "platform/look.h"
 #include "platform/report_paint.h"
+#include "platform/waiting.h"
 
 #include <QCloseEvent>
 #include <QGuiApplication>
@@ -103,7 +104,7 @@ QPushButton* ReportPreview::addButton(const char* name, const QString& caption, 
     button->setFont(roleFont(TextRole::Caption, 1.0));
     button->setMinimumSize(button->sizeHint().width() + 2 * buttonPadding, 34);
     button->setAutoDefault(false);
-    connect(button, &QPushButton::clicked, this, std::move(click));
+    connect(button, &QPushButton::clicked, this, [click = std::move(click)] { run(click); });
     bar_->layout()->addWidget(button);
     return button;
 }
@@ -228,7 +229,8 @@ void ReportPreview::closeEvent(QCloseEvent* event) {
     // Without a window manager nobody hands the keyboard back to the window below.
     if (parentWidget() != nullptr)
         parentWidget()->window()->activateWindow();
-    deleteLater();
+    // The window may be closed from outside while one of its messages stands.
+    runOrLater(this, [this] { deleteLater(); });
     if (onClosed)
         onClosed();
 }

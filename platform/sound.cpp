@@ -1,6 +1,7 @@
 #include "platform/sound.h"
 
 #include "platform/sound_interface.h"
+#include "platform/waiting.h"
 
 #include <QCoreApplication>
 #include <QEventLoop>
@@ -58,7 +59,9 @@ void DeviceSound::playBeside(const QString& file) {
 void DeviceSound::play(const QString& file, bool wait) {
     if (!canPlay(file) || !module_->play(file.toUtf8().constData()) || !wait)
         return;
-    // The window keeps painting while a word is spoken, but the learner's clicks and keys wait their turn.
+    // The window keeps painting while a word is spoken, but the learner's clicks and keys wait their turn,
+    // and what else would press something does nothing.
+    const Waiting waiting(Waiting::Input::Nothing);
     QEventLoop loop;
     QTimer poll;
     QObject::connect(&poll, &QTimer::timeout, &loop, [&] {

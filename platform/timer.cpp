@@ -1,6 +1,9 @@
 #include "platform/timer.h"
 
-#include <QScopedValueRollback>
+#include "platform/waiting.h"
+
+#include <QPointer>
+#include <QScopeGuard>
 
 namespace platform {
 
@@ -21,10 +24,15 @@ void Timer::setEnabled(bool enabled) {
 }
 
 void Timer::tick() {
-    if (ticking_ || !onTick)
+    if (ticking_)
         return;
-    const QScopedValueRollback<bool> guard(ticking_, true);
-    onTick();
+    const QPointer<Timer> alive(this);
+    const auto ended = qScopeGuard([&alive] {
+        if (alive)
+            alive->ticking_ = false;
+    });
+    ticking_ = true;
+    run(onTick);
 }
 
 }  // namespace platform

@@ -8,7 +8,7 @@
 namespace platform {
 
 /// A form's timer: ticks while enabled. A tick never comes while the handler of the one before still runs,
-/// not even when that handler waits in a message box.
+/// nor while any handler waits in a message box or for a word to be spoken.
 class Timer : public QObject {
     Q_OBJECT
    public:

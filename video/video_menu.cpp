@@ -1,6 +1,7 @@
 #include "video/video_menu.h"
 
 #include "core/stores.h"
+#include "platform/waiting.h"
 #include "video/tips.h"
 #include "video/video_files.h"
 
@@ -100,8 +101,7 @@ void VideoMenu::play(const QString& file) {
     // The player opens after this handler; a second click on the way there must not bring up another.
     opening_ = true;
     context().navigator.open(QStringLiteral("frmVideo2"));
-    QMetaObject::invokeMethod(
-        this, [this] { opening_ = false; }, Qt::QueuedConnection);
+    platform::later(this, [this] { opening_ = false; });
 }
 
 void VideoMenu::topicHovered(int index) {

@@ -3,6 +3,7 @@
 #include "app/screens.h"
 #include "core/startup.h"
 #include "course/dispatch.h"
+#include "platform/waiting.h"
 #include "tests/support/desk.h"
 
 #include <QElapsedTimer>
@@ -124,7 +125,31 @@ TEST_F(ScreenLoopTest, AScreenThatStandsIsBroughtForwardAndNotMadeASecondTime) {
     settle();
     EXPECT_EQ(loop->top(), a);
     EXPECT_NE(open("frmB"), nullptr) << "once gone it can come again";
-    EXPECT_EQ(log.size(), 3);
+    EXPECT_EQ(log, (QStringList{"load frmA", "load frmB", "closed", "load frmB"}));
+}
+
+TEST_F(ScreenLoopTest, WhateverFollowsAScreenThatWasAskedForTwiceRunsInTheOrderOfAsking) {
+    loop->open("frmA", [this] { log.append("first"); });
+    loop->open("frmA", [this] { log.append("second"); });
+    loop->open("frmA");
+    settle();
+    loop->top()->unload();
+    settle();
+    EXPECT_EQ(log, (QStringList{"load frmA", "first", "second"}));
+}
+
+TEST_F(ScreenLoopTest, NoScreenOpensWhileAHandlerWaits) {
+    loop->open("frmA");
+    {
+        const platform::Waiting waiting(platform::Waiting::Input::Box);
+        settle();
+        EXPECT_EQ(loop->top(), nullptr);
+        loop->open("frmB");
+        settle();
+        EXPECT_EQ(log, QStringList());
+    }
+    settle();
+    EXPECT_EQ(log, (QStringList{"load frmA", "load frmB"}));
 }
 
 TEST_F(ScreenLoopTest, TheKeyboardStartsOnTheFormSoThatSpaceEndsNothing) {

@@ -1,9 +1,13 @@
 #include "course/exercise_screen.h"
 
+#include "core/play_sound.h"
 #include "core/stores.h"
 #include "platform/timer.h"
+#include "platform/waiting.h"
+#include "tests/support/assistive.h"
 #include "tests/support/course_rows.h"
 #include "tests/support/recorder.h"
+#include "tools/wave.h"
 
 #include <QDir>
 #include <QFile>
@@ -26,6 +30,7 @@ class TinyScreen final : public course::ExerciseScreen {
     QStringList log;
     bool dataOpen() const { return contentDb.isOpen() || rows_.isOpen(); }
     bool stay = false;
+    QString word;
 
    protected:
     void firstTick() override {
@@ -33,6 +38,8 @@ class TinyScreen final : public course::ExerciseScreen {
         contentDb = core::openCourse(context());
         rows_ = contentDb.openRecordset(QStringLiteral("Select * from tablework"));
         showPreByWords();
+        if (!word.isEmpty())
+            core::PlaySound(context(), word, core::WordAndWait);
         if (stay)
             keepTimerRunning();
     }
@@ -372,4 +379,40 @@ TEST_F(PicNext, AtTheLastStepOnlyTheFrameRemains) {
     EXPECT_TRUE(screen.isNull());
     EXPECT_TRUE(navigator.asked.empty());
     EXPECT_FALSE(navigator.ended);
+}
+
+TEST_F(ExerciseChrome, APressWhileAWordIsSpokenDoesNothingAndOneAfterItCounts) {
+    tools::Wave wave{22050, {}};
+    wave.samples.resize(8000);
+    ASSERT_TRUE(tools::writeWave(desk.file(session.mediaSoundDir + "leaf.wav"), wave));
+    platform::DeviceSound device;
+    core::Context speaking = support::contextWith(desk, navigator, &device);
+    screen = new TinyScreen(speaking, {});
+    screen->word = "leaf";
+    bool pressed = false;
+    QTimer poll;
+    QObject::connect(&poll, &QTimer::timeout, &poll, [&] {
+        if (!platform::Waiting::anywhere())
+            return;
+        poll.stop();
+        pressed = true;
+        for (const char* name : {"picTable", "picNext", "picPre", "picExit"}) {
+            support::pressAssistively(button(name));
+            QTest::mouseClick(&button(name), Qt::LeftButton);
+        }
+        support::settle();
+    });
+    poll.start(1);
+    screen->show();
+    EXPECT_TRUE(support::waitFor([&] {
+        return screen.isNull() || !find<platform::Timer>(screen, QStringLiteral("TimerGo")).enabled();
+    }));
+    EXPECT_TRUE(pressed);
+    ASSERT_FALSE(screen.isNull());
+    EXPECT_FALSE(screen->isUnloaded());
+    EXPECT_TRUE(navigator.asked.empty());
+    EXPECT_TRUE(desk.boxes.shown.empty());
+    EXPECT_FALSE(navigator.ended);
+    support::pressAssistively(button("picTable"));
+    EXPECT_TRUE(support::waitFor([&] { return navigator.screens() == QStringList{"frmTable"}; }));
 }
