@@ -13,23 +13,42 @@ namespace platform {
 
 namespace {
 
+/// The window that a box is to stand over: the topmost on view. One that has just come up is not the active
+/// one yet.
+QWidget* windowOnTop() {
+    if (QWidget* modal = QApplication::activeModalWidget())
+        return modal;
+    QWidget* active = QApplication::activeWindow();
+    return active != nullptr && active->isVisible() ? active : nullptr;
+}
+
+/// Whatever else has buttons, such as the player or a print preview, is out of reach from now on.
+void disableAllWindows() {
+    for (QWidget* window : QApplication::topLevelWidgets())
+        window->setEnabled(false);
+}
+
 void endWithBox(const std::exception& failure) {
-    // What else fails while the box stands, such as another timer, must not take it from under the learner's
-    // eyes.
+    const QString text = failureText(failure);
+    std::fprintf(stderr, "%s\n", qPrintable(text));
+    std::fflush(stderr);
+    // What else fails while the box stands is told above, and does not take it from under the learner's eyes.
     static bool shown = false;
     if (shown)
         return;
     shown = true;
-    const QString text = failureText(failure);
-    std::fprintf(stderr, "%s\n", qPrintable(text));
-    std::fflush(stderr);
     while (QApplication::overrideCursor() != nullptr)
         QApplication::restoreOverrideCursor();
-    QMessageBox box(QMessageBox::Critical, defaultBoxTitle(), text, QMessageBox::Ok,
-                    QApplication::activeWindow());
-    box.setObjectName(QStringLiteral("errorBox"));
-    dressBox(box);
-    box.exec();
+    // Never ends: nothing of the program runs on, and no screen comes up over the box.
+    const Waiting waiting(Waiting::Input::Box);
+    QWidget* below = windowOnTop();
+    disableAllWindows();
+    // Not on the stack, where its owner could not delete it.
+    auto* box = new QMessageBox(QMessageBox::Critical, defaultBoxTitle(), text, QMessageBox::Ok, below,
+                                Qt::Dialog | Qt::MSWindowsFixedSizeDialogHint | Qt::WindowStaysOnTopHint);
+    box->setObjectName(QStringLiteral("errorBox"));
+    dressBox(*box);
+    box->exec();
     // At once, and without unwinding: what was stored is stored, and nothing of the failed handler runs on.
     std::_Exit(1);
 }

@@ -1,29 +1,109 @@
-// Fails in the way its first argument names, and tells on standard output what box the learner is shown.
+// Fails in the way its first argument names, and tells on standard output what box the learner is shown. What
+// runs on while the box stands says so in the same place.
 
 #include "platform/application.h"
 #include "platform/error.h"
+#include "platform/form.h"
+#include "platform/message_box.h"
 #include "platform/timer.h"
+#include "platform/waiting.h"
+#include "tests/support/assistive.h"
 
 #include <QMessageBox>
 #include <QPushButton>
+#include <QScreen>
 #include <QTimer>
 
 #include <cstdio>
+#include <map>
 
 namespace {
+
+// As often as the box is looked at before it is answered.
+constexpr int looksAtBox = 20;
 
 [[noreturn]] void fail() {
     throw platform::RuntimeError(platform::Fault::FileNotFound,
                                  QStringLiteral("File not found: 'D:\\next1.jpg'."));
 }
 
+void tell(const char* what) {
+    std::printf("%s\n", what);
+    std::fflush(stdout);
+}
+
+/// How much of the box can be seen on the screen, in percent.
+int visiblePart(QMessageBox& box) {
+    const QImage expected = box.grab().toImage().convertToFormat(QImage::Format_RGB32);
+    const QPoint place = box.mapToGlobal(QPoint(0, 0));
+    const QImage shown = box.screen()
+                             ->grabWindow(0, place.x(), place.y(), box.width(), box.height())
+                             .toImage()
+                             .convertToFormat(QImage::Format_RGB32);
+    int same = 0;
+    for (int y = 0; y < expected.height(); ++y)
+        for (int x = 0; x < expected.width(); ++x)
+            same += expected.pixel(x, y) == shown.pixel(x, y) ? 1 : 0;
+    return 100 * same / (expected.width() * expected.height());
+}
+
+/// The program's windows: a frame, and on it a screen whose first tick fails. Its other timers, its buttons
+/// and the next screen say what ran on.
+struct Windows {
+    platform::Frame frame{QStringLiteral("frmFrame")};
+    platform::Form* screen = new platform::Form(QStringLiteral("frmTable"), QSize(900, 700), &frame);
+    platform::Timer& first = *new platform::Timer(QStringLiteral("TimerGo"), 1, screen);
+    platform::Timer& second = *new platform::Timer(QStringLiteral("Timer2"), 1, screen);
+    platform::PictureButton& button =
+        screen->addPictureButton(QStringLiteral("picNext"), QRect(0, 0, 50, 50), QStringLiteral("Next"));
+
+    Windows() {
+        frame.setGeometry(frame.screen()->geometry());
+        frame.showFullScreen();
+        first.onTick = [this] {
+            first.setEnabled(false);
+            second.setEnabled(true);
+            platform::later(&frame, [this] { openNext(); });
+            fail();
+        };
+        second.onTick = [this] {
+            tell("a timer ran on");
+            screen->unload();
+        };
+        button.onClick = [] { tell("a button was pressed"); };
+        screen->onCloseRequest = [] { tell("a window was closed"); };
+        screen->show();
+        screen->raise();
+        screen->activateWindow();
+        first.setEnabled(true);
+    }
+    void openNext() {
+        tell("a screen was opened");
+        auto* next = new platform::Form(QStringLiteral("frmNext"), QSize(900, 700), &frame);
+        next->show();
+        next->raise();
+    }
+};
+
+Windows* windows = nullptr;
+
+void disturb(QMessageBox& box) {
+    if (windows == nullptr)
+        return;
+    support::pressAssistively(windows->button);
+    windows->screen->close();
+    if (qEnvironmentVariableIsSet("FAILURE_TELLS_VISIBLE_PART") && visiblePart(box) < 95)
+        tell("the box is covered");
+}
+
 /// Looks for the box, lets a few more ticks go by, and answers it.
 void watch(QTimer& watcher) {
     QObject::connect(&watcher, &QTimer::timeout, &watcher, [&watcher, looks = 0]() mutable {
         auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
-        if (box == nullptr || ++looks < 5)
+        if (box == nullptr || box->objectName() != QStringLiteral("errorBox") || ++looks < looksAtBox)
             return;
         watcher.stop();
+        disturb(*box);
         std::printf("%s|%d|%d|%s\n", qPrintable(box->objectName()), static_cast<int>(box->icon()),
                     static_cast<int>(box->textFormat()), qPrintable(box->text()));
         std::fflush(stdout);
@@ -38,19 +118,22 @@ int main(int argc, char** argv) {
     platform::Application application(argc, argv);
     QTimer watcher;
     watch(watcher);
-    const QString way = application.arguments().value(1);
     platform::Timer timer("TimerGo", 1, nullptr);
     timer.onTick = fail;
-    platform::Timer another("Timer2", 2, nullptr);
-    another.onTick = [] { throw std::runtime_error("another failure"); };
-    if (way == QStringLiteral("tick"))
-        timer.setEnabled(true);
-    else if (way == QStringLiteral("again")) {
-        timer.setEnabled(true);
-        another.setEnabled(true);
-    } else if (way == QStringLiteral("posted"))
-        QMetaObject::invokeMethod(&application, fail, Qt::QueuedConnection);
-    else
-        application.guarded(fail);
+    QTimer another;
+    QObject::connect(&another, &QTimer::timeout, &application,
+                     [] { throw std::runtime_error("another failure"); });
+    const std::map<QString, std::function<void()>> ways{
+        {"tick", [&] { timer.setEnabled(true); }},
+        {"again",
+         [&] {
+             timer.setEnabled(true);
+             another.start(20);
+         }},
+        {"posted", [&] { QMetaObject::invokeMethod(&application, fail, Qt::QueuedConnection); }},
+        {"startup", [&] { application.guarded(fail); }},
+        {"screen", [] { windows = new Windows; }},
+    };
+    ways.at(application.arguments().value(1))();
     return QApplication::exec();
 }
