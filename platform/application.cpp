@@ -70,6 +70,16 @@ Application::Application(int& argc, char** argv) : QApplication(argc, argv), onF
     setQuitOnLastWindowClosed(false);
 }
 
+bool Application::event(QEvent* event) {
+    if (event->type() != QEvent::Quit)
+        return QApplication::event(event);
+    // The learner logs out of the desktop. The toolkit would close one window after the other until one will
+    // not, and end nothing while a question stands. Nothing is asked and nothing saved here: every result was
+    // stored when it happened.
+    exit(0);
+    return true;
+}
+
 bool Application::notify(QObject* receiver, QEvent* event) {
     try {
         if (receiver->isWidgetType() && Waiting::refusesInput() && isInput(*event))

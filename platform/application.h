@@ -21,6 +21,9 @@ class Application : public QApplication {
     /// What happens to a failure. The default shows it once in a critical box, tells it on standard error
     /// and ends the process with status 1.
     std::function<void(const std::exception& failure)> onFailure;
+
+   protected:
+    bool event(QEvent* event) override;
 };
 
 /// "Run-time error '53': …" with the plain sentence on its own paragraph.

@@ -2,6 +2,7 @@
 #include <SDL_mixer.h>
 
 #include <map>
+#include <memory>
 #include <string>
 
 namespace {
@@ -14,10 +15,21 @@ struct Device {
     bool open = false;
     std::map<std::string, Mix_Chunk*> sounds;
 
+    Device(const Device&) = delete;
+    Device& operator=(const Device&) = delete;
     Device() {
         SDL_SetMainReady();
+        // Else it would take the signals that end a program, Ctrl+C among them, and wait for somebody to ask.
+        SDL_SetHint(SDL_HINT_NO_SIGNAL_HANDLERS, "1");
         open = SDL_InitSubSystem(SDL_INIT_AUDIO) == 0 &&
                Mix_OpenAudio(MIX_DEFAULT_FREQUENCY, MIX_DEFAULT_FORMAT, 2, 1024) == 0;
+    }
+    ~Device() {
+        if (!open)
+            return;
+        forget();
+        Mix_CloseAudio();
+        SDL_QuitSubSystem(SDL_INIT_AUDIO);
     }
     void forget() {
         Mix_HaltChannel(channel);
@@ -38,9 +50,16 @@ struct Device {
     }
 };
 
-Device& device() {
-    static Device shared;
+// Opens with the first sound, and again with the first one after it was closed.
+std::unique_ptr<Device>& slot() {
+    static std::unique_ptr<Device> shared;
     return shared;
+}
+
+Device& device() {
+    if (!slot())
+        slot() = std::make_unique<Device>();
+    return *slot();
 }
 
 bool playOn(int voice, const char* utf8File) {
@@ -67,11 +86,6 @@ __attribute__((visibility("default"))) bool mendori_sound_playing() {
 }
 
 __attribute__((visibility("default"))) void mendori_sound_close() {
-    if (!device().open)
-        return;
-    device().forget();
-    Mix_CloseAudio();
-    SDL_QuitSubSystem(SDL_INIT_AUDIO);
-    device().open = false;
+    slot().reset();
 }
 }

@@ -70,6 +70,13 @@ TEST(FailureUnderTheBox, IsToldOnStandardErrorAndNotInSilence) {
     EXPECT_TRUE(runFailing("again").errors.contains("another failure"));
 }
 
+TEST(LogOut, EndsTheProgramThoughAQuestionStands) {
+    const Outcome run = runFailing("log out");
+    EXPECT_EQ(run.ended, QProcess::NormalExit);
+    EXPECT_EQ(run.status, 0);
+    EXPECT_EQ(run.told, "the question is over\n");
+}
+
 TEST(FailureText, AnyOtherFailureIsToldInItsOwnWords) {
     EXPECT_EQ(platform::failureText(std::runtime_error("out of order")), "Run-time error:\n\nout of order");
 }

@@ -87,6 +87,21 @@ struct Windows {
 
 Windows* windows = nullptr;
 
+/// The desktop asks the program to end while a question stands, which goes with its buttons alone.
+void logOut() {
+    QTimer::singleShot(0, [] {
+        platform::DesktopBoxes boxes;
+        boxes.ask(QStringLiteral("다음?"), QStringLiteral("Tovalin"));
+        tell("the question is over");
+    });
+    auto* desktop = new QTimer(QCoreApplication::instance());
+    QObject::connect(desktop, &QTimer::timeout, desktop, [] {
+        if (QApplication::activeModalWidget() != nullptr)
+            QCoreApplication::postEvent(QCoreApplication::instance(), new QEvent(QEvent::Quit));
+    });
+    desktop->start(5);
+}
+
 void disturb(QMessageBox& box) {
     if (windows == nullptr)
         return;
@@ -133,6 +148,7 @@ int main(int argc, char** argv) {
         {"posted", [&] { QMetaObject::invokeMethod(&application, fail, Qt::QueuedConnection); }},
         {"startup", [&] { application.guarded(fail); }},
         {"screen", [] { windows = new Windows; }},
+        {"log out", [] { logOut(); }},
     };
     ways.at(application.arguments().value(1))();
     return QApplication::exec();

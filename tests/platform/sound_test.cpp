@@ -4,11 +4,13 @@
 #include "tools/wave.h"
 
 #include <QFile>
+#include <QFileInfo>
 #include <QProcess>
 
 #include <gtest/gtest.h>
 
 #include <cmath>
+#include <csignal>
 
 namespace {
 
@@ -85,6 +87,26 @@ TEST_F(SoundTest, AMissingOrBrokenFileIsSilenceAtOnce) {
     broken.close();
     EXPECT_LT(play({folder.filePath("missing.wav"), broken.fileName(), folder.path()}), 2000);
     EXPECT_EQ(crossings(), 0);
+}
+
+TEST_F(SoundTest, TheSignalsThatEndAProgramEndItAfterASoundToo) {
+    const QString word = tone("long.wav", 440, 60);
+    for (const int signal : {SIGTERM, SIGINT}) {
+        QFile::remove(samples);
+        QProcess child;
+        QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+        environment.insert("SDL_AUDIODRIVER", "disk");
+        environment.insert("SDL_DISKAUDIOFILE", samples);
+        child.setProcessEnvironment(environment);
+        child.start(QCoreApplication::applicationDirPath() + "/play", {word});
+        ASSERT_TRUE(support::waitFor([&] { return QFileInfo(samples).size() > 0; }, 20000));
+        ASSERT_EQ(kill(static_cast<pid_t>(child.processId()), signal), 0);
+        EXPECT_TRUE(child.waitForFinished(5000));
+        EXPECT_EQ(child.exitStatus(), QProcess::CrashExit);
+        EXPECT_EQ(child.exitCode(), signal);
+        child.kill();
+        child.waitForFinished(5000);
+    }
 }
 
 TEST_F(SoundTest, WithoutADeviceTheProgramIsSilentAndNeverStandsStill) {
