@@ -1,6 +1,7 @@
 #include "platform/application.h"
 
 #include "platform/error.h"
+#include "platform/file_limit.h"
 #include "platform/message_box.h"
 #include "platform/waiting.h"
 
@@ -68,6 +69,7 @@ QString failureText(const std::exception& failure) {
 Application::Application(int& argc, char** argv) : QApplication(argc, argv), onFailure(endWithBox) {
     setApplicationName(QStringLiteral("Mendori"));
     setQuitOnLastWindowClosed(false);
+    ignoreFileLimitSignal();
 }
 
 bool Application::event(QEvent* event) {

@@ -1,6 +1,7 @@
 // The tools of a course under one name: course build, course check, course import …
 
 #include "platform/application.h"
+#include "platform/file_limit.h"
 #include "tools/build_command.h"
 #include "tools/check_command.h"
 #include "tools/export_command.h"
@@ -58,6 +59,7 @@ std::unique_ptr<QCoreApplication> makeApplication(const Subcommand& command, int
 }  // namespace
 
 int main(int argc, char** argv) {
+    platform::ignoreFileLimitSignal();
     const QByteArray name = argc > 1 ? argv[1] : "";
     if (name.isEmpty() || name == "--help" || name == "-h")
         return showUsage(name.isEmpty() ? stderr : stdout, name.isEmpty() ? 2 : 0);

@@ -1,6 +1,7 @@
 // Makes the videos of a course out of its units' tips.
 
 #include "core/startup.h"
+#include "platform/file_limit.h"
 #include "platform/settings.h"
 #include "tools/command_line.h"
 #include "tools/video_maker.h"
@@ -36,6 +37,7 @@ int main(int argc, char** argv) {
     // Slides are drawn without a window, on machines without a desktop too.
     qputenv("QT_QPA_PLATFORM", "offscreen");
     const QGuiApplication app(argc, argv);
+    platform::ignoreFileLimitSignal();
     QGuiApplication::setApplicationName(QStringLiteral("make_videos"));
     const QCommandLineOption root(QStringLiteral("root"), QStringLiteral("Folder that plays the drives."),
                                   QStringLiteral("folder"));

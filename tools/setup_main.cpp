@@ -1,6 +1,7 @@
 // Makes an install of the starter course, or of a course of one's own, in a folder that plays the drives.
 
 #include "core/startup.h"
+#include "platform/file_limit.h"
 #include "platform/settings.h"
 #include "tools/command_line.h"
 #include "tools/install.h"
@@ -79,6 +80,7 @@ void makeVideos(const tools::InstallPlan& plan) {
 
 int main(int argc, char** argv) {
     const QCoreApplication app(argc, argv);
+    platform::ignoreFileLimitSignal();
     QCoreApplication::setApplicationName(QStringLiteral("setup"));
     const Options options;
     tools::CommandLine line(

@@ -3,7 +3,9 @@
 #include "platform/error.h"
 #include "tests/support/desk.h"
 #include "tests/support/x_display.h"
+#include "tools/store_writer.h"
 
+#include <SQLiteCpp/SQLiteCpp.h>
 #include <QMessageBox>
 #include <QProcess>
 
@@ -68,6 +70,20 @@ TEST(FailureUnderAWindowManager, StandsOverEveryWindowUntilItIsAnswered) {
 
 TEST(FailureUnderTheBox, IsToldOnStandardErrorAndNotInSilence) {
     EXPECT_TRUE(runFailing("again").errors.contains("another failure"));
+}
+
+TEST(StoreThatMayNotGrow, EndsTheRunWithItsNameAndKeepsWhatWasSaved) {
+    const QTemporaryDir folder;
+    const QString file = folder.filePath("DbScore_1001.mdb");
+    tools::writeStore(file, "DbScore", {});
+    const Outcome run = runFailing("full store", QProcessEnvironment::systemEnvironment(), file, "64");
+    EXPECT_EQ(run.ended, QProcess::NormalExit) << "signal " << run.status;
+    EXPECT_EQ(run.status, 1);
+    EXPECT_TRUE(run.told.contains("errorBox")) << run.told.toStdString();
+    EXPECT_TRUE(run.told.contains("DbScore_1001.mdb")) << run.told.toStdString();
+    SQLite::Database store(file.toStdString(), SQLite::OPEN_READWRITE);
+    EXPECT_EQ(store.execAndGet("pragma integrity_check").getString(), "ok");
+    EXPECT_GT(store.execAndGet("select count(*) from score where length(vTitle)=1000").getInt(), 10);
 }
 
 TEST(LogOut, EndsTheProgramThoughAQuestionStands) {

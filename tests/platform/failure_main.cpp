@@ -2,9 +2,11 @@
 // runs on while the box stands says so in the same place.
 
 #include "platform/application.h"
+#include "platform/database.h"
 #include "platform/error.h"
 #include "platform/form.h"
 #include "platform/message_box.h"
+#include "platform/recordset.h"
 #include "platform/timer.h"
 #include "platform/waiting.h"
 #include "tests/support/assistive.h"
@@ -87,6 +89,18 @@ struct Windows {
 
 Windows* windows = nullptr;
 
+/// Saves until the store takes no more.
+void fillStore(const QString& file) {
+    const auto store = platform::Database::open(file, QStringLiteral("C:\\DbScore_1001.mdb"));
+    auto scores = store.openRecordset(QStringLiteral("Select * from score"));
+    for (int i = 0; i < 10000; ++i) {
+        scores.addNew();
+        scores.set(QStringLiteral("vTitle"), QString(1000, u'x'));
+        scores.update();
+    }
+    tell("the store took everything");
+}
+
 /// The desktop asks the program to end while a question stands, which goes with its buttons alone.
 void logOut() {
     QTimer::singleShot(0, [] {
@@ -148,6 +162,7 @@ int main(int argc, char** argv) {
         {"posted", [&] { QMetaObject::invokeMethod(&application, fail, Qt::QueuedConnection); }},
         {"startup", [&] { application.guarded(fail); }},
         {"screen", [] { windows = new Windows; }},
+        {"full store", [&] { application.guarded([&] { fillStore(application.arguments().value(2)); }); }},
         {"log out", [] { logOut(); }},
     };
     ways.at(application.arguments().value(1))();
