@@ -14,6 +14,8 @@ constexpr int barFrames = 11;
 
 LoginPanel::LoginPanel(Context& context) : Screen(context, QStringLiteral("frmLogIn2"), panelSize) {
     setAccessibleName(QStringLiteral("Please wait"));
+    // The one screen that holds nothing up.
+    setWindowModality(Qt::NonModal);
     picWait_ =
         &addPictureButton(QStringLiteral("picWait"), QRect(0, 0, 420, 160), QStringLiteral("Please wait"));
     picBar_ =

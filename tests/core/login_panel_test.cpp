@@ -39,6 +39,12 @@ TEST_F(LoginPanelTest, LoadsWithOnlyTheStartingTimerEnabled) {
     EXPECT_EQ(find(panel, "picWait").pos(), QPoint(0, 0));
 }
 
+TEST_F(LoginPanelTest, HoldsUpNoOtherWindow) {
+    panel->show();
+    EXPECT_EQ(panel->windowModality(), Qt::NonModal);
+    EXPECT_EQ(QApplication::activeModalWidget(), nullptr);
+}
+
 TEST_F(LoginPanelTest, OpensTheTableOnTheSecondTick) {
     tick("Timer2");
     EXPECT_TRUE(navigator.asked.empty());
