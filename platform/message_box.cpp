@@ -33,6 +33,12 @@ class Box final : public QMessageBox {
     bool asks_;
 };
 
+QMessageBox::StandardButtons boxButtons(const Message& message) {
+    if (message.tryAgain)
+        return QMessageBox::Retry | QMessageBox::Cancel;
+    return message.yesNo ? QMessageBox::Yes | QMessageBox::No : QMessageBox::StandardButtons(QMessageBox::Ok);
+}
+
 QMessageBox::Icon boxIcon(BoxIcon icon) {
     switch (icon) {
         case BoxIcon::Information: return QMessageBox::Information;
@@ -68,16 +74,19 @@ bool DesktopBoxes::show(const Message& message) {
     box->setObjectName(QStringLiteral("messageBox"));
     dressBox(*box);
     box->setText(message.text);
+    box->setInformativeText(message.advice);
     box->setIcon(boxIcon(message.icon));
     box->setWindowTitle(message.title.isEmpty() ? defaultBoxTitle() : message.title);
-    box->setStandardButtons(message.yesNo ? QMessageBox::Yes | QMessageBox::No : QMessageBox::Ok);
+    box->setStandardButtons(boxButtons(message));
+    if (message.tryAgain)
+        box->setDefaultButton(QMessageBox::Retry);
     const Waiting waiting(Waiting::Input::Box);
     const int answer = box->exec();
     delete box.data();
     // Not every desktop hands the keyboard back by itself, and then no box would show that it is in hand.
     if (asking && asking->isVisible())
         asking->activateWindow();
-    return answer == QMessageBox::Ok || answer == QMessageBox::Yes;
+    return answer == QMessageBox::Ok || answer == QMessageBox::Yes || answer == QMessageBox::Retry;
 }
 
 }  // namespace platform

@@ -14,13 +14,18 @@ struct Message {
     BoxIcon icon = BoxIcon::None;
     QString title;
     bool yesNo = false;
+    /// What to do about it, on lines of its own below the text.
+    QString advice = {};
+    /// Whether what failed can be tried again: buttons Retry and Cancel instead of OK.
+    bool tryAgain = false;
 };
 
 /// Where messages are shown; tests without windows record them.
 class MessageBoxes {
    public:
     virtual ~MessageBoxes() = default;
-    /// Shows the message and waits until it is answered. True for OK and Yes, false for No.
+    /// Shows the message and waits until it is answered. True for OK, Yes and Retry, false
+    /// for No and Cancel.
     virtual bool show(const Message& message) = 0;
 
     /// A notice with the information icon.
@@ -32,6 +37,10 @@ class MessageBoxes {
     /// A question with Yes and No.
     bool ask(const QString& text, const QString& title) {
         return show({text, BoxIcon::Question, title, true});
+    }
+    /// Tells a failure and asks whether it is to be tried again.
+    bool askAgain(const QString& text, const QString& advice) {
+        return show({text, BoxIcon::Stop, {}, false, advice, true});
     }
 };
 

@@ -61,7 +61,7 @@ class Stage::Boxes final : public platform::MessageBoxes {
     QStringList texts;
     bool show(const platform::Message& message) override {
         texts.append(message.text);
-        return true;
+        return !message.tryAgain;
     }
 };
 

@@ -19,6 +19,7 @@ struct Seen {
     Qt::TextFormat format = Qt::AutoText;
     QMessageBox::StandardButtons buttons;
     QString shownText;
+    QString advice;
 };
 
 /// Answers the next box with a real click once it stands, and tells what it looked like.
@@ -30,7 +31,8 @@ Seen answer(QMessageBox::StandardButton button, const std::function<void()>& sho
         if (box == nullptr || !box->isVisible())
             return;
         poll.stop();
-        seen = {box->text(), box->windowTitle(), box->icon(), box->textFormat(), box->standardButtons(), {}};
+        seen = {box->text(), box->windowTitle(),    box->icon(), box->textFormat(), box->standardButtons(),
+                {},          box->informativeText()};
         if (const auto* label = box->findChild<QLabel*>("qt_msgbox_label"))
             seen.shownText = label->text();
         QTest::mouseClick(box->button(button), Qt::LeftButton);
@@ -111,4 +113,28 @@ TEST(DesktopBoxes, HandTheKeyboardBackToTheWindowThatAsked) {
     DesktopBoxes boxes;
     answer(QMessageBox::Ok, [&] { boxes.notice("끝났습니다."); });
     EXPECT_TRUE(support::waitFor([&] { return window.hasFocus(); }));
+}
+
+TEST(DesktopBoxes, WhatCanBeTriedAgainAsksForItAndTellsWhatToDo) {
+    DesktopBoxes boxes;
+    for (const auto button : {QMessageBox::Retry, QMessageBox::Cancel}) {
+        bool again = false;
+        const Seen seen =
+            answer(button, [&] { again = boxes.askAgain("저장하지 못했습니다.", "Close the other one."); });
+        EXPECT_EQ(again, button == QMessageBox::Retry);
+        EXPECT_EQ(seen.text, "저장하지 못했습니다.");
+        EXPECT_EQ(seen.advice, "Close the other one.");
+        EXPECT_EQ(seen.icon, QMessageBox::Critical);
+        EXPECT_EQ(seen.buttons, QMessageBox::Retry | QMessageBox::Cancel);
+    }
+}
+
+TEST(DesktopBoxes, AdviceStandsBesideTheTextAndLeavesItAsItIs) {
+    DesktopBoxes boxes;
+    const Seen seen = answer(QMessageBox::Ok, [&] {
+        boxes.show({"Please Insert USB Drive", platform::BoxIcon::Stop, {}, false, "Run <setup>."});
+    });
+    EXPECT_EQ(seen.text, "Please Insert USB Drive");
+    EXPECT_EQ(seen.shownText, "Please Insert USB Drive");
+    EXPECT_EQ(seen.advice, "Run <setup>.");
 }

@@ -90,8 +90,9 @@ bool MessageList::show(const platform::Message& message) {
     shown.push_back(message);
     if (onShow)
         onShow(message);
+    // What cannot be stored is given up unless a test says otherwise.
     if (answers.empty())
-        return true;
+        return !message.tryAgain;
     const bool answer = answers.front();
     answers.pop_front();
     return answer;

@@ -67,7 +67,7 @@ class SoundList final : public platform::SoundPlayer {
     QStringList names() const;
 };
 
-/// Keeps the messages shown; answers yes and OK unless a test has queued answers.
+/// Keeps the messages shown; answers yes and OK, and gives up what failed, unless a test has queued answers.
 class MessageList final : public platform::MessageBoxes {
    public:
     std::vector<platform::Message> shown;
