@@ -95,7 +95,7 @@ std::size_t MemberList::totalCount() const {
 
 std::optional<std::size_t> MemberList::indexOf(std::int64_t key) const {
     const auto found = std::find_if(members_.begin(), members_.end(),
-                                    [&](const Member& member) { return member.key == key; });
+                                    [&](const Member& member) { return member.key == key && !member.gone; });
     if (found == members_.end())
         return std::nullopt;
     return static_cast<std::size_t>(found - members_.begin());

@@ -32,7 +32,8 @@ class MemberList {
     std::size_t totalCount() const;
 
     std::int64_t keyAt(std::size_t index) const { return members_[index].key; }
-    /// The place of a known member.
+    /// The place of a known member that was not deleted. The engine gives the key of a deleted row to a later
+    /// one, so that a key can stand in the list twice.
     std::optional<std::size_t> indexOf(std::int64_t key) const;
     /// The first member at or after a place that was not deleted; reads on where the known ones end.
     std::optional<std::size_t> nextLive(std::size_t from);

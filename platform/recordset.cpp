@@ -69,10 +69,10 @@ void Recordset::moveLast() {
 std::size_t Recordset::currentIndex() {
     if (!index_) {
         members_.readAll();
-        // A row that another set has deleted meanwhile has no place: what follows is the end.
-        index_ = members_.indexOf(key_).value_or(members_.size());
+        index_ = members_.indexOf(key_);
     }
-    return *index_;
+    // A row that another set has deleted meanwhile has no place: what follows is the end.
+    return index_.value_or(members_.size());
 }
 
 void Recordset::moveNext() {
@@ -191,7 +191,9 @@ void Recordset::remove() {
         statement->bind(1, key_);
         statement->exec();
     });
-    members_.markGone(index);
+    // Another set may have deleted the row before, and then it has no place here.
+    if (index < members_.size())
+        members_.markGone(index);
     place_ = Place::Gone;
 }
 

@@ -127,3 +127,27 @@ TEST_F(LargeRecordsetTest, RowsAddedBeforeItIsReadToItsEndAreNotLost) {
     EXPECT_EQ(set.recordCount(), rowCount + 1);
     EXPECT_EQ(set.integer("orderno"), 3000);
 }
+
+TEST_F(LargeRecordsetTest, ARowFoundByAJumpThatAnotherSetDeletedIsRemovedWithoutHarm) {
+    for (const bool last : {true, false}) {
+        Recordset set = open();
+        const int far = last ? 2500 : 2400;
+        if (last)
+            set.moveLast();
+        else
+            set.findFirst("orderno=2400");
+        ASSERT_EQ(set.integer("orderno"), far);
+        Recordset other = open(last ? "where orderno=2500" : "where orderno=2400");
+        other.remove();
+        set.remove();
+        EXPECT_EQ(set.recordCount(), last ? 2499 : 1) << "no other row was taken for it";
+        set.addNew();
+        set.set("orderno", 3000);
+        set.update();
+        set.moveNext();
+        EXPECT_TRUE(set.eof() || set.integer("orderno") == 3000);
+        set.moveFirst();
+        EXPECT_EQ(set.integer("orderno"), 1);
+    }
+    EXPECT_EQ(store.rows("select count(*) from words"), QStringList{"2500"});
+}

@@ -284,3 +284,19 @@ TEST_F(RecordsetTest, ASetOutlivesTheHandleItWasOpenedFrom) {
     database.close();
     EXPECT_EQ(set.text("word"), "Apple");
 }
+
+TEST_F(RecordsetTest, ARowThatTakesTheKeyOfADeletedOneIsTheOneThatIsFound) {
+    Recordset set = open();
+    set.moveLast();
+    set.remove();
+    set.addNew();
+    set.set("orderno", 6);
+    set.set("word", "lime");
+    set.update();
+    set.findFirst("word='lime'");
+    ASSERT_FALSE(set.noMatch());
+    set.remove();
+    set.moveFirst();
+    EXPECT_EQ(words(set), (QStringList{"pear", "Apple", "fig", "APPLE"}));
+    EXPECT_EQ(set.recordCount(), 4);
+}
