@@ -1,6 +1,7 @@
 #include "platform/cursor.h"
 
 #include "platform/error.h"
+#include "platform/whole_file.h"
 
 #include <QApplication>
 #include <QBuffer>
@@ -39,16 +40,17 @@ void writeCursor(const QString& file, const QImage& image, QPoint hotSpot) {
     QByteArray png;
     QBuffer buffer(&png);
     buffer.open(QIODevice::WriteOnly);
-    image.save(&buffer, "PNG");
-    QFile out(file);
-    if (!out.open(QIODevice::WriteOnly))
-        throw RuntimeError(Fault::FileNotFound, QStringLiteral("Cannot write '%1'.").arg(file));
-    QDataStream stream(&out);
+    const bool drawn = image.save(&buffer, "PNG");
+    QByteArray head;
+    QDataStream stream(&head, QIODevice::WriteOnly);
     stream.setByteOrder(QDataStream::LittleEndian);
     stream << quint16(0) << quint16(2) << quint16(1);
     stream << quint8(image.width()) << quint8(image.height()) << quint8(0) << quint8(0);
     stream << quint16(hotSpot.x()) << quint16(hotSpot.y()) << quint32(png.size()) << quint32(22);
-    out.write(png);
+    const QString reason =
+        drawn ? writeWhole(file, head + png) : QStringLiteral("the picture cannot be drawn");
+    if (!reason.isEmpty())
+        throw RuntimeError(Fault::FileNotFound, QStringLiteral("Cannot write '%1': %2.").arg(file, reason));
 }
 
 Hourglass::Hourglass() {

@@ -2,6 +2,7 @@
 // size for dense screens, and the hand as a cursor.
 
 #include "platform/cursor.h"
+#include "platform/error.h"
 
 #include <QCommandLineParser>
 #include <QDir>
@@ -66,8 +67,13 @@ int main(int argc, char** argv) {
         parser.showHelp(2);
     const QDir from(parser.positionalArguments()[0]);
     const QString to = parser.positionalArguments()[1];
-    for (const char* folder : {"interface", "button"})
-        if (!renderFolder(QDir(from.filePath(QLatin1String(folder))), to + u'/' + QLatin1String(folder)))
-            return 1;
+    try {
+        for (const char* folder : {"interface", "button"})
+            if (!renderFolder(QDir(from.filePath(QLatin1String(folder))), to + u'/' + QLatin1String(folder)))
+                return 1;
+    } catch (const platform::RuntimeError& error) {
+        std::fprintf(stderr, "%s\n", qPrintable(error.sentence()));
+        return 1;
+    }
     return 0;
 }

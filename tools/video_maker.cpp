@@ -1,5 +1,6 @@
 #include "tools/video_maker.h"
 
+#include "platform/whole_file.h"
 #include "tools/narrator.h"
 #include "tools/slide_painter.h"
 
@@ -8,7 +9,6 @@
 #include <QFile>
 #include <QFileInfo>
 #include <QProcess>
-#include <QSaveFile>
 #include <QStandardPaths>
 #include <QTemporaryDir>
 
@@ -45,9 +45,8 @@ struct Note {
         return {words.value(0), words.value(1).toLongLong()};
     }
     bool write(const QString& video) const {
-        QSaveFile out(file(video));
-        return out.open(QIODevice::WriteOnly) &&
-               out.write(QStringLiteral("%1 %2\n").arg(stamp).arg(size).toLatin1()) > 0 && out.commit();
+        const QByteArray text = QStringLiteral("%1 %2\n").arg(stamp).arg(size).toLatin1();
+        return platform::writeWhole(file(video), text).isEmpty();
     }
 };
 

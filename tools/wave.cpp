@@ -67,7 +67,8 @@ bool writeWave(const QString& file, const Wave& wave) {
     stream << bytes;
     for (const std::int16_t sample : wave.samples)
         stream << qint16(sample);
-    return out.commit();
+    // Without a flush of its own the toolkit puts a file in place whose last block did not fit on the disk.
+    return out.flush() && out.commit();
 }
 
 Wave readWave(const QString& file) {

@@ -1,6 +1,7 @@
 #include "platform/picture.h"
 
 #include "platform/cursor.h"
+#include "tests/support/file_size_limit.h"
 #include "tests/support/store.h"
 
 #include <QFile>
@@ -117,4 +118,25 @@ TEST_F(PictureTest, SomethingBehindAPictureDoesNoHarm) {
     picture.write(QByteArray(10000, 'x'));
     picture.close();
     EXPECT_EQ(faultOf([&] { loadPicture(file, shown, 1.0); }), 0);
+}
+
+TEST_F(PictureTest, ACursorThatCannotBeWrittenIsAnErrorThatNamesIt) {
+    QImage image(32, 32, QImage::Format_ARGB32);
+    image.fill(Qt::red);
+    const QString cursor = folder.filePath("nowhere/harrow.cur");
+    QString sentence;
+    EXPECT_EQ(faultOf([&] { platform::writeCursor(cursor, image, QPoint(1, 2)); }, &sentence), 53);
+    EXPECT_TRUE(sentence.contains(cursor)) << sentence.toStdString();
+}
+
+TEST_F(PictureTest, ACursorThatTheDiskHasNoRoomForLeavesTheOlderOne) {
+    const QString cursor = folder.filePath("harrow.cur");
+    QImage image(32, 32, QImage::Format_ARGB32);
+    image.fill(Qt::red);
+    platform::writeCursor(cursor, image, QPoint(13, 2));
+    {
+        const support::FileSizeLimit full(10);
+        EXPECT_EQ(faultOf([&] { platform::writeCursor(cursor, image, QPoint(1, 1)); }), 53);
+    }
+    EXPECT_EQ(platform::loadCursor(cursor, "D:\\harrow.cur").hotSpot(), QPoint(13, 2));
 }
