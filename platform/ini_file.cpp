@@ -14,19 +14,55 @@ namespace platform {
 namespace {
 
 const QByteArray byteOrderMark = QByteArrayLiteral("\xEF\xBB\xBF");
+constexpr qint64 largestFile = 1024LL * 1024;
 
-/// The lines as they stand, so that what another program wrote in another encoding is kept byte by byte.
-QByteArrayList readBytes(const QString& file) {
+/// A file's lines as they stand, each with its end, so that what another program wrote in another encoding is
+/// kept byte by byte.
+struct IniText {
+    QByteArray mark;  // the byte order mark, where there is one
+    QByteArrayList lines;
+
+    QByteArray lineEnd() const {
+        return !lines.isEmpty() && lines.first().endsWith("\r\n") ? QByteArrayLiteral("\r\n")
+                                                                  : QByteArrayLiteral("\n");
+    }
+    QByteArray whole() const { return mark + lines.join(); }
+};
+
+/// Why a file cannot be taken for settings, empty where it can. A file that is not there is none.
+QString troubleOf(const QString& file, QByteArray* text = nullptr) {
+    const QFileInfo info(file);
+    if (info.isDir())
+        return QStringLiteral("it is a folder");
     QFile opened(file);
     if (!opened.open(QIODevice::ReadOnly))
-        return {};
-    QByteArray text = opened.readAll();
-    if (text.startsWith(byteOrderMark))
+        return info.exists() || info.isSymLink() ? opened.errorString() : QString();
+    if (opened.size() > largestFile)
+        return QStringLiteral("it is far too large");
+    const QByteArray read = opened.readAll();
+    if (read.startsWith("\xFF\xFE") || read.startsWith("\xFE\xFF") || read.contains('\0'))
+        return QStringLiteral("it is written in UTF-16, or is no text at all; save it as UTF-8");
+    if (text != nullptr)
+        *text = read;
+    return {};
+}
+
+IniText readText(const QString& file) {
+    QByteArray text;
+    IniText ini;
+    if (!troubleOf(file, &text).isEmpty())
+        return ini;
+    if (text.startsWith(byteOrderMark)) {
+        ini.mark = byteOrderMark;
         text.remove(0, byteOrderMark.size());
-    text.replace("\r\n", "\n");
-    if (text.endsWith('\n'))
-        text.chop(1);
-    return text.isEmpty() ? QByteArrayList() : text.split('\n');
+    }
+    for (qsizetype start = 0; start < text.size();) {
+        const qsizetype end = text.indexOf('\n', start);
+        const qsizetype next = end < 0 ? text.size() : end + 1;
+        ini.lines.append(text.mid(start, next - start));
+        start = next;
+    }
+    return ini;
 }
 
 QStringList decodedLines(const QByteArrayList& lines) {
@@ -104,7 +140,7 @@ QString encoded(const QString& value) {
 }  // namespace
 
 std::optional<QString> readIni(const QString& file, const QString& section, const QString& key) {
-    const QStringList lines = decodedLines(readBytes(file));
+    const QStringList lines = decodedLines(readText(file).lines);
     const KeyPlace place = findKey(lines, section, key);
     if (place.line < 0)
         return std::nullopt;
@@ -112,19 +148,30 @@ std::optional<QString> readIni(const QString& file, const QString& section, cons
     return decoded(line.mid(line.indexOf(u'=') + 1));
 }
 
+QString iniTrouble(const QString& file) {
+    return troubleOf(file);
+}
+
 bool writeIni(const QString& file, const QString& section, const QString& key, const QString& value) {
-    QByteArrayList lines = readBytes(file);
-    const KeyPlace place = findKey(decodedLines(lines), section, key);
-    const QByteArray entry = (key + u'=' + encoded(value)).toUtf8();
+    // What cannot be read would be lost if it were written.
+    if (!troubleOf(file).isEmpty())
+        return false;
+    IniText ini = readText(file);
+    const KeyPlace place = findKey(decodedLines(ini.lines), section, key);
+    const QByteArray lineEnd = ini.lineEnd();
+    const QByteArray entry = (key + u'=' + encoded(value)).toUtf8() + lineEnd;
+    const qsizetype end = place.sectionEnd >= 0 ? place.sectionEnd : ini.lines.size();
+    if (end > 0 && place.line < 0 && !ini.lines[end - 1].endsWith('\n'))
+        ini.lines[end - 1] += lineEnd;
     if (place.line >= 0)
-        lines[place.line] = entry;
+        ini.lines[place.line] = entry;
     else if (place.sectionEnd >= 0)
-        lines.insert(place.sectionEnd, entry);
+        ini.lines.insert(place.sectionEnd, entry);
     else
-        lines += {(u'[' + section + u']').toUtf8(), entry};
+        ini.lines += {(u'[' + section + u']').toUtf8() + lineEnd, entry};
     QDir().mkpath(QFileInfo(file).path());
     // Who learns here is nobody else's business.
-    return writeWhole(file, lines.join('\n') + '\n', Readers::OwnerAlone).isEmpty();
+    return writeWhole(file, ini.whole(), Readers::OwnerAlone).isEmpty();
 }
 
 }  // namespace platform

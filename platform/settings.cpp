@@ -19,6 +19,15 @@ QString settingsPlace(const QString& application) {
 #endif
 }
 
+QString settingsTrouble(const QString& application) {
+#ifdef Q_OS_WIN
+    Q_UNUSED(application);
+    return {};
+#else
+    return iniTrouble(settingsPlace(application));
+#endif
+}
+
 QString UserSettings::read(const QString& application, const QString& section, const QString& key,
                            const QString& fallback) const {
 #ifdef Q_OS_WIN
@@ -36,6 +45,8 @@ void UserSettings::write(const QString& application, const QString& section, con
     store.setValue(section + u'/' + key, value);
 #else
     const QString file = settingsPlace(application);
+    if (const QString trouble = settingsTrouble(application); !trouble.isEmpty())
+        throw RuntimeError(Fault::FileNotFound, QStringLiteral("Cannot change '%1': %2.").arg(file, trouble));
     if (!writeIni(file, section, key, value))
         throw RuntimeError(Fault::FileNotFound, QStringLiteral("Cannot write '%1'.").arg(file));
 #endif

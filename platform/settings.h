@@ -28,4 +28,7 @@ class UserSettings final : public Settings {
 /// Where the application's settings are kept, for messages to people.
 QString settingsPlace(const QString& application);
 
+/// Why the settings cannot be read, empty where they can.
+QString settingsTrouble(const QString& application);
+
 }  // namespace platform

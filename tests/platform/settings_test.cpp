@@ -1,5 +1,6 @@
 #include "platform/settings.h"
 
+#include "platform/error.h"
 #include "platform/ini_file.h"
 #include "tests/support/desk.h"
 
@@ -129,4 +130,44 @@ TEST_F(SettingsTest, NobodyElseReadsWhoLearnsHere) {
     const QFile::Permissions others =
         QFile::ReadGroup | QFile::ReadOther | QFile::WriteGroup | QFile::WriteOther;
     EXPECT_EQ(QFile::permissions(platform::settingsPlace(application)) & others, QFile::Permissions());
+}
+
+TEST_F(SettingsTest, AWriteKeepsLineEndsAndTheByteOrderMark) {
+    byHand("\xEF\xBB\xBF[General Information]\r\nUserID=7\r\n\r\n[Platform]\r\nRoot=/course");
+    settings.write(application, general, "UserID", "8");
+    settings.write(application, "Platform", "ApplicationFolder", "D:\\");
+    settings.write(application, general, "Name", "Kim");
+    QFile in(platform::settingsPlace(application));
+    ASSERT_TRUE(in.open(QIODevice::ReadOnly));
+    EXPECT_EQ(
+        in.readAll().toStdString(),
+        "\xEF\xBB\xBF[General Information]\r\nUserID=8\r\nName=Kim\r\n\r\n[Platform]\r\nRoot=/course\r\n"
+        "ApplicationFolder=\"D:\\\\\"\r\n")
+        << "a last line without an end gets one";
+}
+
+TEST_F(SettingsTest, AStoreThatCannotBeReadIsToldAndNotWrittenOver) {
+    EXPECT_EQ(platform::settingsTrouble(application), "") << "there is none yet";
+    byHand("");
+    EXPECT_EQ(platform::settingsTrouble(application), "");
+    const QByteArray wide("\xFF\xFE[\0G\0", 6);
+    const QString file = platform::settingsPlace(application);
+    QFile out(file);
+    ASSERT_TRUE(out.open(QIODevice::WriteOnly));
+    out.write(wide);
+    out.close();
+    EXPECT_TRUE(platform::settingsTrouble(application).contains("UTF-16"));
+    EXPECT_EQ(read("UserID"), "-");
+    try {
+        settings.write(application, general, "UserID", "8");
+        ADD_FAILURE() << "it was written over";
+    } catch (const platform::RuntimeError& error) {
+        EXPECT_TRUE(error.sentence().contains(file) && error.sentence().contains("UTF-16"));
+    }
+    ASSERT_TRUE(out.open(QIODevice::ReadOnly));
+    EXPECT_EQ(out.readAll(), wide);
+    out.remove();
+    QDir().mkpath(file);
+    EXPECT_EQ(platform::settingsTrouble(application), "it is a folder");
+    EXPECT_TRUE(QDir().rmdir(file));
 }
