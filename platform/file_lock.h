@@ -14,7 +14,8 @@ class FileLock {
     FileLock& operator=(const FileLock&) = delete;
 
     /// Takes the lock; false while another program holds it. Where no lock can be made, as on a read-only
-    /// disk, there is none to wait for.
+    /// disk, there is none to wait for. Throws DatabaseFailure for a lock file that is there and cannot be
+    /// used.
     bool tryTake(const QString& file);
 
    private:

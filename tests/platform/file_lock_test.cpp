@@ -1,5 +1,9 @@
 #include "platform/file_lock.h"
 
+#include "tests/support/store.h"
+#include "tests/support/stranger.h"
+
+#include <QDir>
 #include <QFile>
 #include <QTemporaryDir>
 
@@ -50,4 +54,28 @@ TEST_F(FileLockTest, AKilledHolderGivesItBack) {
 TEST_F(FileLockTest, WhereNoneCanBeMadeThereIsNoneToWaitFor) {
     FileLock lock;
     EXPECT_TRUE(lock.tryTake(folder.filePath(QStringLiteral("nowhere/mendori.lock"))));
+}
+
+TEST_F(FileLockTest, AFolderInItsPlaceIsTold) {
+    QString sentence;
+    ASSERT_TRUE(QDir().mkpath(file));
+    FileLock lock;
+    EXPECT_EQ(support::faultOf([&] { lock.tryTake(file); }, &sentence), 3049);
+    EXPECT_TRUE(sentence.contains(file)) << sentence.toStdString();
+    ASSERT_TRUE(QDir().rmdir(file));
+    EXPECT_TRUE(lock.tryTake(file)) << "once it is gone the lock is made";
+}
+
+TEST_F(FileLockTest, AFileThatCannotBeReadIsToldAndDisablesNoLock) {
+    QFile made(file);
+    ASSERT_TRUE(made.open(QIODevice::WriteOnly));
+    made.setPermissions({});
+    support::openToOthers(folder.path());
+    const support::Stranger stranger;
+    if (QFile(file).open(QIODevice::ReadOnly))
+        GTEST_SKIP() << "nothing is closed to this user";
+    FileLock lock;
+    QString sentence;
+    EXPECT_EQ(support::faultOf([&] { lock.tryTake(file); }, &sentence), 3049);
+    EXPECT_TRUE(sentence.contains(file) && sentence.contains("Permission denied")) << sentence.toStdString();
 }
