@@ -1,17 +1,23 @@
 #pragma once
 
 #include "platform/database.h"
+#include "platform/store_wait.h"
 
 #include <SQLiteCpp/SQLiteCpp.h>
+
+#include <memory>
 
 namespace platform {
 
 template <typename Work>
 auto Connection::guarded(Work work, const QString& table) -> decltype(work()) {
-    try {
-        return work();
-    } catch (const SQLite::Exception& failure) {
-        translate(failure, table);
+    for (std::unique_ptr<StoreWait> wait;;) {
+        try {
+            return work();
+        } catch (const SQLite::Exception& failure) {
+            if (!waitForOthers(failure, wait))
+                translate(failure, table);
+        }
     }
 }
 

@@ -4,11 +4,12 @@
 
 #include "platform/error.h"
 #include "platform/recordset.h"
+#include "platform/store_faults.h"
 
 #include <SQLiteCpp/SQLiteCpp.h>
 #include <sqlite3.h>
-#include <QFile>
 #include <QFileInfo>
+#include <QSet>
 
 #include <utility>
 
@@ -16,60 +17,22 @@ namespace platform {
 
 namespace {
 
-// How long a second program on the same stores waits for its turn, in milliseconds.
-constexpr int busyTimeout = 15000;
+// How long a store that another program holds is asked for before the learner hears of it, in milliseconds.
+constexpr int busyTimeout = 250;
+// A store is read through when a run first opens it: up to the first size together with its indexes, up to
+// the second without them, in bytes. Beyond it a learner would notice.
+constexpr qint64 fullCheckLimit = 1024LL * 1024;
+constexpr qint64 quickCheckLimit = 8 * fullCheckLimit;
 
 QHash<QString, std::weak_ptr<Connection>>& openConnections() {
     static QHash<QString, std::weak_ptr<Connection>> connections;
     return connections;
 }
 
-}  // namespace
-
-StoreFormat storeFormat(const QString& file) {
-    QFile opened(file);
-    if (!QFileInfo(file).isFile() || !opened.open(QIODevice::ReadOnly))
-        return StoreFormat::Missing;
-    const QByteArray start = opened.read(24);
-    if (start.startsWith(QByteArrayLiteral("SQLite format 3")))
-        return StoreFormat::Store;
-    const QByteArray engine = start.mid(4, 15);
-    if (engine == "Standard Jet DB" || engine == "Standard ACE DB")
-        return StoreFormat::AccessFile;
-    return StoreFormat::Unknown;
-}
-
-namespace {
-
-/// There is nothing under the name that could be read.
-[[noreturn]] void throwMissing(const QString& file, const QString& shownName) {
-    const QFileInfo found(file);
-    if (found.isDir())
-        throw RuntimeError(Fault::DatabaseNotFound,
-                           QStringLiteral("'%1' is a folder and no store (%2).").arg(shownName, file));
-    QFile opened(file);
-    if (found.exists() && !opened.open(QIODevice::ReadOnly))
-        throw RuntimeError(
-            Fault::DatabaseFailure,
-            QStringLiteral("'%1' cannot be opened: %2 (%3).").arg(shownName, opened.errorString(), file));
-    throw RuntimeError(Fault::DatabaseNotFound,
-                       QStringLiteral("Could not find file '%1' (%2).").arg(shownName, file));
-}
-
-void requireStore(const QString& file, const QString& shownName) {
-    switch (storeFormat(file)) {
-        case StoreFormat::Missing: throwMissing(file, shownName);
-        case StoreFormat::AccessFile:
-            throw RuntimeError(Fault::UnrecognizedFormat,
-                               QStringLiteral("'%1' is a genuine Access file. Bring it along with \"course "
-                                              "import\"; the file was left as it is.")
-                                   .arg(shownName));
-        case StoreFormat::Unknown:
-            throw RuntimeError(
-                Fault::UnrecognizedFormat,
-                QStringLiteral("'%1' is damaged: it is no store of this program.").arg(shownName));
-        case StoreFormat::Store: break;
-    }
+/// The stores that were read through and found sound: once a run is enough.
+QSet<QString>& soundStores() {
+    static QSet<QString> stores;
+    return stores;
 }
 
 }  // namespace
@@ -83,13 +46,22 @@ Database Database::open(const QString& file, const QString& shownName) {
     if (database.connection_)
         return database;
     requireStore(file, shownName);
-    database.connection_ = std::make_shared<Connection>(file, shownName);
-    openConnections().insert(key, database.connection_);
+    auto connection = std::make_shared<Connection>(file, shownName);
+    if (!soundStores().contains(key)) {
+        connection->requireSound();
+        soundStores().insert(key);
+    }
+    openConnections().insert(key, connection);
+    database.connection_ = std::move(connection);
     return database;
 }
 
 void Database::flushFully() const {
     connection_->flushFully();
+}
+
+void Database::requireWritable() const {
+    connection_->requireWritable();
 }
 
 Recordset Database::openRecordset(const QString& sql) const {
@@ -115,7 +87,8 @@ void Batch::commit() {
     connection_->endBatch(true);
 }
 
-Connection::Connection(const QString& file, QString shownName) : shownName_(std::move(shownName)) {
+Connection::Connection(const QString& file, QString shownName)
+    : file_(file), shownName_(std::move(shownName)) {
     guarded([&] {
         sqlite_ = std::make_unique<SQLite::Database>(file.toStdString(), SQLite::OPEN_READWRITE, busyTimeout);
     });
@@ -146,7 +119,8 @@ std::shared_ptr<const TableShape> Connection::shape(const QString& table) {
 
 std::shared_ptr<SQLite::Statement> Connection::prepare(const QString& sql) {
     if (const auto known = statements_.constFind(sql); known != statements_.constEnd()) {
-        (*known)->reset();
+        // What its last use failed with is not what this one fails with.
+        (*known)->tryReset();
         return *known;
     }
     auto statement = std::make_shared<SQLite::Statement>(*sqlite_, sql.toStdString());
@@ -199,35 +173,63 @@ void Connection::rollBack() {
     ++rollbacks_;
 }
 
-void Connection::translate(const SQLite::Exception& failure, const QString& table) const {
-    static const QString noSuchTable = QStringLiteral("no such table: ");
-    static const QString noSuchColumn = QStringLiteral("no such column: ");
-    const QString reason = QString::fromUtf8(failure.what());
-    switch (failure.getErrorCode()) {
-        case SQLITE_CORRUPT:
-        case SQLITE_NOTADB:
-            throw RuntimeError(Fault::UnrecognizedFormat,
-                               QStringLiteral("'%1' is damaged (%2).").arg(shownName_, reason));
-        case SQLITE_ERROR:
-            if (reason.startsWith(noSuchColumn))
-                throw RuntimeError(Fault::ItemNotFound,
-                                   QStringLiteral("There is no field '%1' in table '%2' of '%3'.")
-                                       .arg(reason.mid(noSuchColumn.size()), table, shownName_));
-            if (reason.startsWith(noSuchTable))
-                throw RuntimeError(Fault::TableNotFound,
-                                   QStringLiteral("'%1' has no table '%2'.")
-                                       .arg(shownName_, reason.mid(noSuchTable.size())));
-            throw RuntimeError(
-                Fault::SyntaxError,
-                QStringLiteral("Syntax error in expression on '%1': %2.").arg(shownName_, reason));
-        default: break;
+bool Connection::waitForOthers(const SQLite::Exception& failure, std::unique_ptr<StoreWait>& wait) {
+    if (failure.getErrorCode() != SQLITE_BUSY)
+        return false;
+    if (!wait)
+        wait = std::make_unique<StoreWait>(shownName_);
+    return wait->pause();
+}
+
+void Connection::requireSound() {
+    const qint64 size = QFileInfo(file_).size();
+    if (size > quickCheckLimit)
+        return;
+    const QString found = guarded([&] {
+        SQLite::Statement check(
+            *sqlite_, size > fullCheckLimit ? "PRAGMA quick_check(1)" : "PRAGMA integrity_check(1)");
+        return check.executeStep() ? QString::fromUtf8(check.getColumn(0).getText()) : QString();
+    });
+    if (found != QStringLiteral("ok"))
+        throwDamaged(file_, shownName_, found.section(u'\n', -1));
+}
+
+void Connection::requireWritable() {
+    // A change of the head makes the engine open its journal; it is taken back before anything reaches the
+    // file.
+    const auto version = guarded([&] { return sqlite_->execAndGet("PRAGMA user_version").getInt(); });
+    beginBatch();
+    try {
+        guarded([&] { sqlite_->exec("PRAGMA user_version=" + std::to_string(version ^ 1)); });
+    } catch (const RuntimeError&) {
+        endBatch(false);
+        throw;
     }
+    endBatch(false);
+}
+
+void Connection::translate(const SQLite::Exception& failure, const QString& table) const {
+    const int code = failure.getErrorCode();
+    const QString reason = QString::fromUtf8(failure.what());
+    if (code == SQLITE_CORRUPT || code == SQLITE_NOTADB)
+        throwDamaged(file_, shownName_, reason);
+    if (code == SQLITE_ERROR)
+        throwRefusedStatement(shownName_, table, reason);
+    if (code == SQLITE_BUSY)
+        throw RuntimeError(Fault::DatabaseFailure,
+                           QStringLiteral("'%1' is held by another program. Close that one first (%2).")
+                               .arg(shownName_, file_));
     if (failure.getExtendedErrorCode() == SQLITE_READONLY_DBMOVED)
         throw RuntimeError(Fault::DatabaseFailure,
                            QStringLiteral("'%1' was replaced while it was in use. Start the program again.")
                                .arg(shownName_));
+    if (code == SQLITE_READONLY || code == SQLITE_PERM || code == SQLITE_CANTOPEN)
+        throwNotWritable(file_, shownName_, reason);
+    const int cause = sqlite_ && code != SQLITE_CONSTRAINT ? sqlite3_system_errno(sqlite_->getHandle()) : 0;
     throw RuntimeError(Fault::DatabaseFailure,
-                       QStringLiteral("'%1' cannot be used: %2.").arg(shownName_, reason));
+                       cause == 0 ? QStringLiteral("'%1' cannot be used: %2.").arg(shownName_, reason)
+                                  : QStringLiteral("'%1' cannot be used: %2, %3 (%4).")
+                                        .arg(shownName_, reason, qt_error_string(cause), file_));
 }
 
 }  // namespace platform

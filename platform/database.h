@@ -1,5 +1,7 @@
 #pragma once
 
+#include "platform/store_faults.h"
+
 #include <QHash>
 #include <QString>
 #include <QStringList>
@@ -16,10 +18,7 @@ namespace platform {
 
 class Connection;
 class Recordset;
-
-/// What a file under a store's name holds, told by its first bytes.
-enum class StoreFormat { Missing, Store, AccessFile, Unknown };
-StoreFormat storeFormat(const QString& file);
+class StoreWait;
 
 /// A handle on one store. Handles on the same file share one connection, so that they never wait for each
 /// other; the file closes with the last handle or record set on it.
@@ -29,7 +28,7 @@ class Database {
 
     /// Opens an existing store. `shownName` is the path that messages name. Throws DatabaseNotFound for a
     /// missing file and UnrecognizedFormat for one that is no store, a genuine Access file being told as
-    /// such.
+    /// such, or that is damaged: the first opening of a run reads it through before anything is written.
     static Database open(const QString& file, const QString& shownName);
 
     bool isOpen() const { return connection_ != nullptr; }
@@ -39,6 +38,9 @@ class Database {
     /// From now on an edit is safe from a power cut when it returns: the removal of its journal is on the
     /// disk too, without which the next opening would take the edit back. Costs one flush an edit.
     void flushFully() const;
+    /// Tries to write without changing anything. Throws DatabaseFailure when the file, its folder or its disk
+    /// takes no writing.
+    void requireWritable() const;
     /// Lets the handle go; an unopened one stays as it is.
     void close() { connection_.reset(); }
 
@@ -87,11 +89,15 @@ class Connection {
     /// A prepared statement, kept for the next use of the same text and reset. Throws as the engine does, so
     /// that it is called inside `guarded`.
     std::shared_ptr<SQLite::Statement> prepare(const QString& sql);
-    /// Runs `work` and turns what the engine throws into a RuntimeError that names the store, and the table
-    /// where a field is missing.
+    /// Runs `work`, again for as long as another program holds the store, and turns what else the engine
+    /// throws into a RuntimeError that names the store, and the table where a field is missing.
     template <typename Work>
     auto guarded(Work work, const QString& table = {}) -> decltype(work());
     void flushFully();
+    /// Reads the store through. Throws UnrecognizedFormat when it is damaged.
+    void requireSound();
+    /// Throws as Database::requireWritable tells.
+    void requireWritable();
     /// A number that changes with everything that changes the store's rows.
     int totalChanges() const;
 
@@ -100,8 +106,10 @@ class Connection {
 
    private:
     void rollBack();
+    bool waitForOthers(const SQLite::Exception& failure, std::unique_ptr<StoreWait>& wait);
     [[noreturn]] void translate(const SQLite::Exception& failure, const QString& table) const;
 
+    QString file_;
     QString shownName_;
     std::unique_ptr<SQLite::Database> sqlite_;
     QHash<QString, std::shared_ptr<SQLite::Statement>> statements_;

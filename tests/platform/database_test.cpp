@@ -2,11 +2,13 @@
 
 #include "platform/query.h"
 #include "tests/support/store.h"
+#include "tests/support/stranger.h"
 
 #include <QFile>
 
 #include <fcntl.h>
 #include <sqlite3.h>
+#include <sys/stat.h>
 #include <sys/wait.h>
 #include <unistd.h>
 
@@ -224,6 +226,8 @@ TEST(Query, AnyOtherShapeIsASyntaxError) {
 TEST_F(BrokenStore, AStoreThatMayNotBeReadIsNotToldAsMissing) {
     write("SQLite format 3");
     QFile::setPermissions(file, {});
+    support::openToOthers(folder.path());
+    const support::Stranger stranger;
     if (QFile opened(file); opened.open(QIODevice::ReadOnly))
         GTEST_SKIP() << "nothing is closed to this user";
     EXPECT_EQ(openFault(), 3049);
@@ -282,4 +286,119 @@ TEST(Database, AStoreThatWasReplacedWhileItWasInUseIsToldAsSuch) {
                   &sentence),
               3049);
     EXPECT_EQ(sentence, "'D:\\tovalin.mdb' was replaced while it was in use. Start the program again.");
+}
+
+TEST_F(BrokenStore, AFolderThatIsClosedOrIsAFileIsNotToldAsAMissingStore) {
+    QDir().mkpath(folder.filePath("main"));
+    file = folder.filePath("main/tovalin.mdb");
+    write("SQLite format 3");
+    support::openToOthers(folder.path());
+    QFile::setPermissions(folder.filePath("main"), {});
+    {
+        const support::Stranger stranger;
+        if (!QFile(file).open(QIODevice::ReadOnly)) {
+            EXPECT_EQ(openFault(), 3049);
+            EXPECT_EQ(sentence, "'D:\\tovalin.mdb' cannot be reached: the folder '" +
+                                    folder.filePath("main") + "' is closed to you. Let its owner open it.");
+        }
+    }
+    file = folder.filePath("course/tovalin.mdb");
+    QFile plain(folder.filePath("course"));
+    ASSERT_TRUE(plain.open(QIODevice::WriteOnly));
+    EXPECT_EQ(openFault(), 3024);
+    EXPECT_TRUE(sentence.contains("course' is a file and no folder")) << sentence.toStdString();
+}
+
+TEST_F(BrokenStore, DamageIsToldWhenTheStoreOpensAndNothingIsWrittenToIt) {
+    {
+        SQLite::Database made(file.toStdString(), SQLite::OPEN_READWRITE | SQLite::OPEN_CREATE);
+        made.exec(
+            "create table words(word TEXT); create index by_word on words(word);"
+            "with recursive n(i) as (select 1 union all select i+1 from n where i<400) "
+            "insert into words select 'word' || i from n");
+    }
+    QByteArray bytes = content();
+    ASSERT_GT(bytes.size(), 4 * 4096);
+    bytes.replace(3 * 4096, 4096, QByteArray(4096, '\0'));
+    write(bytes);
+    EXPECT_EQ(openFault(), 3343);
+    EXPECT_TRUE(sentence.startsWith("'D:\\tovalin.mdb' is damaged (") && sentence.contains(file))
+        << sentence.toStdString();
+    EXPECT_EQ(openFault(), 3343) << "a store is sound only once it was found so";
+    EXPECT_EQ(content(), bytes);
+}
+
+TEST_F(BrokenStore, AnIndexThatDoesNotFitItsTableIsDamage) {
+    {
+        SQLite::Database made(file.toStdString(), SQLite::OPEN_READWRITE | SQLite::OPEN_CREATE);
+        made.exec(
+            "create table words(word TEXT); create index by_word on words(word);"
+            "insert into words values('pear'),('fig')");
+    }
+    QByteArray bytes = content();
+    const qsizetype inTable = bytes.indexOf("pear");
+    ASSERT_GT(inTable, 0);
+    bytes[inTable] = 'b';
+    write(bytes);
+    EXPECT_EQ(openFault(), 3343);
+}
+
+TEST(Database, AStoreThatSortsByRulesOfItsOwnIsNoSyntaxError) {
+    const TemporaryStore store("create table words(word TEXT COLLATE NOCASE)");
+    {
+        SQLite::Database other(store.file().toStdString(), SQLite::OPEN_READWRITE);
+        other.exec(
+            "pragma writable_schema=on; update sqlite_master set sql='create table words(word TEXT COLLATE "
+            "KOREAN)'");
+    }
+    QString sentence;
+    EXPECT_EQ(faultOf([&] { store.open().openRecordset("Select * from words where word='a' order by word"); },
+                      &sentence),
+              3343);
+    EXPECT_TRUE(sentence.contains("D:\\tovalin.mdb") && sentence.contains("KOREAN"))
+        << sentence.toStdString();
+}
+
+TEST(Database, AStoreOfSomebodyElseIsToldWithItsOwnerAndWhatToDo) {
+    const TemporaryStore store(twoWords);
+    support::openToOthers(QFileInfo(store.file()).path());
+    const support::Stranger stranger;
+    const Database database = store.open();
+    if (QFile(store.file()).open(QIODevice::ReadWrite))
+        GTEST_SKIP() << "nothing is closed to this user";
+    QString sentence;
+    EXPECT_EQ(faultOf([&] { database.requireWritable(); }, &sentence), 3049);
+    EXPECT_TRUE(sentence.startsWith("'D:\\tovalin.mdb' cannot be written: the file belongs to '"))
+        << sentence.toStdString();
+    EXPECT_TRUE(sentence.contains("setup"));
+    EXPECT_EQ(faultOf([&] { add(database, "plum"); }), 3049);
+}
+
+TEST(Database, AFolderThatTakesNoJournalIsFoundBeforeAnythingIsWritten) {
+    const TemporaryStore store(twoWords);
+    const QString folder = QFileInfo(store.file()).path();
+    support::openToOthers(folder);
+    ASSERT_EQ(chmod(QFile::encodeName(store.file()).constData(), 0666), 0);
+    const support::Stranger stranger;
+    if (QFile(folder + "/new").open(QIODevice::WriteOnly))
+        GTEST_SKIP() << "nothing is closed to this user";
+    QString sentence;
+    EXPECT_EQ(faultOf([&] { store.open().requireWritable(); }, &sentence), 3049);
+    EXPECT_TRUE(sentence.contains("its folder belongs to '")) << sentence.toStdString();
+}
+
+TEST(Database, TryingToWriteChangesNothing) {
+    const TemporaryStore store(twoWords);
+    QFile file(store.file());
+    ASSERT_TRUE(file.open(QIODevice::ReadOnly));
+    const QByteArray before = file.readAll();
+    file.close();
+    const Database database = store.open();
+    database.requireWritable();
+    EXPECT_FALSE(QFile::exists(store.file() + "-journal"));
+    add(database, "plum");
+    EXPECT_EQ(store.rows("select count(*) from words"), QStringList{"3"});
+    ASSERT_TRUE(file.open(QIODevice::ReadOnly));
+    EXPECT_EQ(store.rows("pragma user_version"), QStringList{"0"});
+    EXPECT_EQ(file.readAll().size(), before.size());
 }
