@@ -2,6 +2,7 @@
 
 #include "core/stores.h"
 #include "course/score.h"
+#include "course/score_store.h"
 #include "course/walk.h"
 
 #include <algorithm>
@@ -43,13 +44,8 @@ constexpr std::array rows{
 // The one video step that goes on into a drill.
 constexpr int clozeStep = 21;
 
-/// A video step's video has been watched to its end, which counts as full marks.
-void finishVideoStep(const core::Context& context) {
+void storeWatched(const core::Context& context) {
     core::Session& session = context.session;
-    if (session.recordNo == clozeStep) {
-        context.navigator.open(QStringLiteral("frmLesson3_2"));
-        return;
-    }
     session.scoreDb = core::openScores(context);
     // As in every save, nobody else may add the row between the look and the writing.
     platform::Batch saving(session.scoreDb);
@@ -69,6 +65,15 @@ void finishVideoStep(const core::Context& context) {
     saving.commit();
     row.close();
     session.scoreDb.close();
+}
+
+/// A video step's video has been watched to its end, which counts as full marks.
+void finishVideoStep(const core::Context& context) {
+    if (context.session.recordNo == clozeStep) {
+        context.navigator.open(QStringLiteral("frmLesson3_2"));
+        return;
+    }
+    saveScores(context, [&] { storeWatched(context); });
     context.navigator.open(QStringLiteral("frmTable"));
 }
 

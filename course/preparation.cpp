@@ -2,6 +2,7 @@
 
 #include "core/schema.h"
 #include "core/stores.h"
+#include "course/score_store.h"
 #include "course/shuffle.h"
 #include "platform/cursor.h"
 
@@ -211,10 +212,12 @@ void PrepareFinalData(const Context& context, const QString& courseFile) {
 }
 
 void PrepareStepData(const Context& context) {
+    requireWritableScores(context);
     PrepareStepData(context, core::coursePath(context));
 }
 
 void PrepareFinalData(const Context& context) {
+    requireWritableScores(context);
     PrepareFinalData(context, context.applicationFolder + QStringLiteral("tovalin.mdb"));
 }
 

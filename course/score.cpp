@@ -1,6 +1,7 @@
 #include "course/score.h"
 
 #include "core/stores.h"
+#include "course/score_store.h"
 #include "platform/database.h"
 #include "platform/error.h"
 
@@ -80,6 +81,23 @@ void addRow(Recordset& rows, const Session& session) {
     rows.update();
 }
 
+void storeScore(const core::Context& context) {
+    Session& session = context.session;
+    session.scoreDb = core::openScores(context);
+    // Looking and writing are one transaction: a second copy of the program cannot add the same row between
+    // the two.
+    platform::Batch saving(session.scoreDb);
+    session.scoreRs = session.scoreDb.openRecordset(QStringLiteral("Select * from score where ") +
+                                                    core::learnerStepCriterion(session));
+    if (session.scoreRs.isEmpty())
+        addRow(session.scoreRs, session);
+    else
+        updateRow(session.scoreRs, session);
+    saving.commit();
+    session.scoreRs.close();
+    session.scoreDb.close();
+}
+
 }  // namespace
 
 void addScoreRow(Recordset& rows, const Session& session, const QString& title) {
@@ -106,19 +124,7 @@ void SaveScore(const core::Context& context) {
     session.blankTitle = QString();
     if (session.isFinal() && session.finalBaseRecordNo != session.recordNo)
         session.recordNo = session.finalBaseRecordNo;
-    session.scoreDb = core::openScores(context);
-    // Looking and writing are one transaction: a second copy of the program cannot add the same row between
-    // the two.
-    platform::Batch saving(session.scoreDb);
-    session.scoreRs = session.scoreDb.openRecordset(QStringLiteral("Select * from score where ") +
-                                                    core::learnerStepCriterion(session));
-    if (session.scoreRs.isEmpty())
-        addRow(session.scoreRs, session);
-    else
-        updateRow(session.scoreRs, session);
-    saving.commit();
-    session.scoreRs.close();
-    session.scoreDb.close();
+    saveScores(context, [&] { storeScore(context); });
 }
 
 Int16 percentScore(int correct, int total) {

@@ -5,7 +5,9 @@
 namespace course {
 
 /// Stores `scoreValue` in the column that `scoreSlot` names, on the learner's row of the step; inside a
-/// Final Quiz on the row of the step that launched it. The row is durable when the call returns.
+/// Final Quiz on the row of the step that launched it. The row is durable when the call returns. Where the
+/// store cannot be written the learner can try again, the score being kept; a failure goes on when they give
+/// up.
 void SaveScore(const core::Context& context);
 
 /// The share of right answers in percent, rounded to the nearest whole number, halves to the even one.
