@@ -18,7 +18,7 @@ void read(const core::Context& context) {
     if (context.drives.fileLength(picture.shownName) == 0 || context.drives.fileLength(store.shownName) == 0)
         return;
     const qreal ratio = context.frame == nullptr ? 1.0 : context.frame->devicePixelRatioF();
-    platform::loadPicture(picture.file, picture.shownName, ratio);
+    platform::loadPictureAhead(picture.file, picture.shownName, ratio);
     const platform::Database course = core::openCourse(context);
     auto units = course.openRecordset(QStringLiteral("Select * From topic order by topicno"));
     QString titles = QStringLiteral("0123456789- LessonQuizFinal ");

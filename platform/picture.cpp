@@ -9,6 +9,7 @@
 #include <QImageReader>
 
 #include <algorithm>
+#include <utility>
 
 namespace platform {
 
@@ -46,20 +47,36 @@ bool isCutOff(const QString& path) {
     return !file.readAll().contains(endMark);
 }
 
-}  // namespace
+/// The large picture that was read ahead, until it is taken.
+struct Ahead {
+    QString path;
+    Kept read;
+};
 
-QPixmap loadPicture(const QString& file, const QString& shownName, double pixelRatio) {
-    QFileInfo info(file);
-    if (!info.isFile())
+Ahead& ahead() {
+    static Ahead picture;
+    return picture;
+}
+
+/// The file that a picture is read from.
+struct Chosen {
+    QFileInfo info;
+    bool dense = false;
+};
+
+Chosen choose(const QString& file, const QString& shownName, double pixelRatio) {
+    Chosen chosen{QFileInfo(file)};
+    if (!chosen.info.isFile())
         throw RuntimeError(Fault::FileNotFound,
                            QStringLiteral("File not found: '%1' (%2).").arg(shownName, file));
-    const bool dense = pixelRatio > 1.0 && QFileInfo::exists(denseTwin(info));
-    if (dense)
-        info.setFile(denseTwin(info));
-    const QString path = info.filePath();
-    if (const auto known = kept().constFind(path);
-        known != kept().constEnd() && known->changed == info.lastModified())
-        return known->picture;
+    chosen.dense = pixelRatio > 1.0 && QFileInfo::exists(denseTwin(chosen.info));
+    if (chosen.dense)
+        chosen.info.setFile(denseTwin(chosen.info));
+    return chosen;
+}
+
+QPixmap decode(const Chosen& chosen, const QString& shownName) {
+    const QString path = chosen.info.filePath();
     QImageReader reader(path);
     const QImage image = reader.read();
     if (image.isNull())
@@ -70,11 +87,32 @@ QPixmap loadPicture(const QString& file, const QString& shownName, double pixelR
         throw RuntimeError(Fault::InvalidPicture,
                            QStringLiteral("Invalid picture: '%1' (it was cut off).").arg(shownName));
     QPixmap picture = QPixmap::fromImage(image);
-    if (dense)
+    if (chosen.dense)
         picture.setDevicePixelRatio(2.0);
-    if (info.size() <= keptFileSize)
-        kept().insert(path, {info.lastModified(), picture});
     return picture;
+}
+
+}  // namespace
+
+QPixmap loadPicture(const QString& file, const QString& shownName, double pixelRatio) {
+    const Chosen chosen = choose(file, shownName, pixelRatio);
+    const QString path = chosen.info.filePath();
+    if (const auto known = kept().constFind(path);
+        known != kept().constEnd() && known->changed == chosen.info.lastModified())
+        return known->picture;
+    if (Ahead& next = ahead(); next.path == path && next.read.changed == chosen.info.lastModified())
+        return std::exchange(next, {}).read.picture;
+    const QPixmap picture = decode(chosen, shownName);
+    if (chosen.info.size() <= keptFileSize)
+        kept().insert(path, {chosen.info.lastModified(), picture});
+    return picture;
+}
+
+void loadPictureAhead(const QString& file, const QString& shownName, double pixelRatio) {
+    const Chosen chosen = choose(file, shownName, pixelRatio);
+    const QPixmap picture = loadPicture(file, shownName, pixelRatio);
+    if (chosen.info.size() > keptFileSize)
+        ahead() = {chosen.info.filePath(), {chosen.info.lastModified(), picture}};
 }
 
 }  // namespace platform

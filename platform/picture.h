@@ -10,4 +10,7 @@ namespace platform {
 /// a missing file and InvalidPicture for one that cannot be read; both name `shownName`.
 QPixmap loadPicture(const QString& file, const QString& shownName, double pixelRatio);
 
+/// Reads a picture that is about to be loaded, however large it is: the next loadPicture takes it.
+void loadPictureAhead(const QString& file, const QString& shownName, double pixelRatio);
+
 }  // namespace platform

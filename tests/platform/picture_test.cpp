@@ -140,3 +140,22 @@ TEST_F(PictureTest, ACursorThatTheDiskHasNoRoomForLeavesTheOlderOne) {
     }
     EXPECT_EQ(platform::loadCursor(cursor, "D:\\harrow.cur").hotSpot(), QPoint(13, 2));
 }
+
+TEST_F(PictureTest, ALargePictureThatWasReadAheadIsNotDecodedAgain) {
+    QImage noise(400, 400, QImage::Format_RGB32);
+    for (int i = 0; i < 400 * 400; ++i)
+        noise.setPixel(i % 400, i / 400, qRgb(i * 7919 % 251, i * 104729 % 241, i * 31 % 239));
+    const QString dense = folder.filePath("next1@2x.jpg");
+    paint(file, 10, Qt::red);
+    ASSERT_TRUE(noise.save(dense, "JPG", 100));
+    ASSERT_GT(QFileInfo(dense).size(), 64 * 1024);
+    platform::loadPictureAhead(file, shown, 2.0);
+    const QDateTime changed = QFileInfo(dense).lastModified();
+    write(dense, QByteArray(QFileInfo(dense).size(), 'x'));
+    QFile touched(dense);
+    ASSERT_TRUE(touched.open(QIODevice::ReadWrite));
+    touched.setFileTime(changed, QFileDevice::FileModificationTime);
+    touched.close();
+    EXPECT_EQ(loadPicture(file, shown, 2.0).size(), QSize(400, 400));
+    EXPECT_EQ(faultOf([&] { loadPicture(file, shown, 2.0); }), 481) << "it is not kept for longer";
+}
