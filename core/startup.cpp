@@ -3,12 +3,14 @@
 #include "core/stores.h"
 #include "platform/picture.h"
 
+#include <QFileInfo>
 #include <QGuiApplication>
 #include <QIcon>
 #include <QScreen>
 #include <QStandardPaths>
 
 #include <array>
+#include <cstdio>
 
 namespace core {
 
@@ -16,19 +18,62 @@ namespace {
 
 const QString application = QStringLiteral("Mendori");
 const QString generalSection = QStringLiteral("General Information");
+const QString marker = QStringLiteral("\\A_Mendori\\ABCPicture\\Mendori.jpg");
 const QString platformSection = QStringLiteral("Platform");
 
 constexpr std::array mediaDrives{"C:", "D:", "E:", "F:", "G:", "H:"};
 
+/// A box of the start with what to do about it, which is told on standard error too: the desktop may be gone
+/// before anybody has read the box.
+void stopSign(const Context& context, const QString& text, const QString& advice) {
+    std::fprintf(stderr, "%s %s\n", qPrintable(text), qPrintable(advice));
+    std::fflush(stderr);
+    context.boxes.show({text, platform::BoxIcon::Stop, {}, false, advice});
+}
+
+QString rootAdvice(const platform::Drives& drives) {
+    if (const QString trouble = platform::settingsTrouble(application); !trouble.isEmpty())
+        return QStringLiteral("'%1', which may name the folder of the course, cannot be read: %2.")
+            .arg(platform::settingsPlace(application), trouble);
+    const QString& root = drives.root();
+    const QFileInfo folder(root);
+    const QString where =
+        QStringLiteral(
+            " Make the course with \"setup\", or let MENDORI_ROOT, or the key Root in '%1', "
+            "name the folder that holds it.")
+            .arg(platform::settingsPlace(application));
+    if (root.isEmpty())
+        return QStringLiteral("No drive from C to H holds %1. Sounds and videos are on that medium.")
+            .arg(marker);
+    if (!folder.exists())
+        return QStringLiteral("There is no folder '%1'.").arg(root) + where;
+    if (!folder.isDir())
+        return QStringLiteral("'%1' is a file and no folder.").arg(root) + where;
+    if (!folder.isExecutable())
+        return QStringLiteral("The folder '%1' is closed to you; let its owner open it.").arg(root) + where;
+    return QStringLiteral(
+               "No folder from C to H in '%1' holds %2. Sounds and videos are on that medium; \"setup\" "
+               "makes them anew.")
+        .arg(root, marker);
+}
+
+QString loginAdvice() {
+    const QString file = platform::settingsPlace(application);
+    if (const QString trouble = platform::settingsTrouble(application); !trouble.isEmpty())
+        return QStringLiteral("'%1' cannot be read: %2.").arg(file, trouble);
+    return QStringLiteral(
+               "'%1' names no UserID in its section '%2'. Log in, or run \"setup --user-id NUMBER\".")
+        .arg(file, generalSection);
+}
+
 void findMedia(const Context& context) {
     for (const char* drive : mediaDrives) {
-        const QString marker = QLatin1String(drive) + QStringLiteral("\\A_Mendori\\ABCPicture\\Mendori.jpg");
-        if (FileExists(context, marker) == 1) {
+        if (FileExists(context, QLatin1String(drive) + marker) == 1) {
             context.session.mediaDrive = QLatin1String(drive);
             return;
         }
     }
-    context.boxes.show({QStringLiteral("Please Insert USB Drive"), platform::BoxIcon::Stop, {}, false});
+    stopSign(context, QStringLiteral("Please Insert USB Drive"), rootAdvice(context.drives));
 }
 
 void openDictionary(const Context& context) {
@@ -139,7 +184,7 @@ bool StartUp(const Context& context, platform::Frame& frame) {
     openDictionary(context);
     readIdentity(context);
     if (session.userId.isEmpty()) {
-        context.boxes.show({QStringLiteral("Log In Required."), platform::BoxIcon::Stop, {}, false});
+        stopSign(context, QStringLiteral("Log In Required."), loginAdvice());
         return false;
     }
     session.scoreDb = openScores(context);

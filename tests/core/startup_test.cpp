@@ -2,6 +2,7 @@
 
 #include "tests/support/recorder.h"
 #include "tests/support/store.h"
+#include "tests/support/stranger.h"
 
 #include <QDir>
 #include <QFile>
@@ -235,4 +236,51 @@ TEST(Places, TheApplicationFolderIsTheSettingsElseTheDriveThatHoldsTheCourse) {
     EXPECT_EQ(core::applicationFolder(desk.settings, desk.context().drives), "D:\\");
     desk.settings.values["Mendori/Platform/ApplicationFolder"] = "C:\\Program\\Tovalin1";
     EXPECT_EQ(core::applicationFolder(desk.settings, desk.context().drives), "C:\\Program\\Tovalin1");
+}
+
+TEST_F(StartUpTest, ARootThatIsNoFolderOrClosedIsToldBesideTheWarning) {
+    const QString file = desk.root() + "/plain";
+    write(file, "a file");
+    const QString closed = desk.root() + "/closed";
+    QDir().mkpath(closed);
+    support::openToOthers(desk.root());
+    QFile::setPermissions(closed, {});
+    const support::Stranger stranger;
+    struct Case {
+        QString root;
+        const char* told;
+    };
+    for (const Case& one : {Case{desk.root() + "/nowhere", "There is no folder '"},
+                            Case{file, "is a file and no folder"}, Case{closed, "is closed to you"}}) {
+        if (one.root == closed && QFileInfo(closed).isExecutable())
+            continue;
+        desk.boxes.shown.clear();
+        const platform::Drives drives(one.root);
+        const core::Context elsewhere{desk.session, drives,      desk.settings,
+                                      desk.clock,   desk.random, desk.sound,
+                                      desk.boxes,   navigator,   QStringLiteral("D:\\")};
+        QString sentence;
+        EXPECT_NE(faultOf([&] { core::StartUp(elsewhere, frame); }, &sentence), 0)
+            << "there is no dictionary";
+        ASSERT_EQ(desk.boxes.texts(), QStringList{"Please Insert USB Drive"});
+        const QString advice = desk.boxes.shown[0].advice;
+        EXPECT_TRUE(advice.contains(one.root) && advice.contains(one.told)) << advice.toStdString();
+        EXPECT_TRUE(advice.contains("MENDORI_ROOT") && advice.contains("setup"));
+    }
+}
+
+TEST_F(StartUpTest, WhyNobodyIsLoggedInIsToldWithTheSettingsFile) {
+    desk.settings.values.clear();
+    const QString file = platform::settingsPlace("Mendori");
+    start();
+    EXPECT_TRUE(desk.boxes.shown.back().advice.startsWith("'" + file + "' names no UserID"))
+        << desk.boxes.shown.back().advice.toStdString();
+    QDir().mkpath(QFileInfo(file).path());
+    write(file, QByteArray("\xFF\xFE[\0", 4));
+    start();
+    EXPECT_TRUE(desk.boxes.shown.back().advice.startsWith("'" + file + "' cannot be read: ") &&
+                desk.boxes.shown.back().advice.contains("UTF-16"))
+        << desk.boxes.shown.back().advice.toStdString();
+    QFile::remove(file);
+    EXPECT_EQ(desk.boxes.lastText(), "Log In Required.");
 }
