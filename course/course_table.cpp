@@ -17,6 +17,13 @@ void CourseTable::firstTick() {
     stepRs_.moveLast();
     topicRs_ = formDb_.openRecordset(QStringLiteral("Select * From topic order by topicno"));
     for (int i = 0; !topicRs_.eof(); ++i, topicRs_.moveNext()) {
+        if (i == topicCount)
+            throw platform::RuntimeError(
+                platform::Fault::SubscriptOutOfRange,
+                QStringLiteral(
+                    "Subscript out of range: the course table shows %1 units, and there are more in %2.")
+                    .arg(topicCount)
+                    .arg(topicRs_.description()));
         Label& topic = lblTopic_(i);
         topic.setCaption(topicRs_.text(QStringLiteral("Title")));
         topic.setCursor(lblRecordNo_(0).cursor());

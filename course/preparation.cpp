@@ -47,7 +47,15 @@ void copyFields(const Recordset& source, Recordset& target, const std::vector<in
         target.set(static_cast<int>(i), source.value(plan[i]));
 }
 
-void copyRows(Recordset source, Recordset target, int count) {
+/// The working table that takes the rows of a query on another store.
+struct Filled {
+    const Database& database;
+    QString table;
+};
+
+void copyRows(Recordset source, const Filled& filled, int count) {
+    Recordset target = emptied(filled.database, filled.table);
+    filled.database.noteOrigin(filled.table, source.description());
     const auto plan = copyPlan(source, target, count);
     for (; !source.eof(); source.moveNext()) {
         target.addNew();
@@ -60,6 +68,10 @@ void fillWordBook(const Context& context, Recordset book, const Database& course
     Recordset words = course.openRecordset(
         QStringLiteral("Select * from newword where recordno =%1").arg(context.session.recordNo));
     for (; !words.eof(); words.moveNext()) {
+        // The word screens need both; what is missing is told here, where its table and row are known.
+        if (context.session.wordNo > 0)
+            for (const char* field : {"word", "korean"})
+                words.text(QLatin1String(field));
         book.addNew();
         book.set(QStringLiteral("word"), words.value(QStringLiteral("word")));
         book.set(QStringLiteral("Page"), words.value(QStringLiteral("recordno")));
@@ -81,6 +93,7 @@ QString basicRowsQuery(int recordNo) {
 void fillSecondList(const Database& course, const Database& master) {
     Recordset target = emptied(course, QStringLiteral("basic_Data2"));
     Recordset source = master.openRecordset(QStringLiteral("Select * from tovalin1_BasicData_115"));
+    course.noteOrigin(QStringLiteral("basic_Data2"), source.description());
     for (; !source.eof(); source.moveNext()) {
         target.addNew();
         target.set(QStringLiteral("orderno2"), source.value(QStringLiteral("autono")));
@@ -103,6 +116,7 @@ QString finalStepsQuery(const core::Session& session) {
 void listFinalSteps(const Context& context, const Database& course) {
     Recordset steps = course.openRecordset(finalStepsQuery(context.session));
     Recordset list = emptied(course, QStringLiteral("tablework_Final"));
+    course.noteOrigin(QStringLiteral("tablework_Final"), steps.description());
     const auto plan = copyPlan(steps, list, core::stepCopyFields);
     for (; !steps.eof(); steps.moveNext()) {
         list.addNew();
@@ -158,6 +172,7 @@ void fetchQuestions(const Context& context, const Database& course) {
     const Database master = core::openMaster(context);
     const QString all = QStringLiteral("Select * from tovalin1_quiz_data");
     const Recordset held = master.openRecordset(all);
+    course.noteOrigin(QStringLiteral("quiz_data_New3"), held.description());
     Recordset questions = course.openRecordset(QStringLiteral("Select * from quiz_data_New3"));
     for (; !questions.eof(); questions.moveNext()) {
         const Recordset source =
@@ -183,17 +198,19 @@ void PrepareStepData(const Context& context, const QString& courseFile) {
     Recordset book = emptied(wordBook, QStringLiteral("word_book"));
     const Database course = core::openStore(context, courseFile);
     fillWordBook(context, std::move(book), course);
+    wordBook.noteOrigin(QStringLiteral("word_book"),
+                        QStringLiteral("table 'newword' of '%1'").arg(courseFile));
     words.commit();
     const platform::Hourglass hourglass;
     const auto masterRows = [&](const QString& sql) { return master.openRecordset(sql); };
     Batch batch(course);
     copyRows(masterRows(QStringLiteral("Select * from tovalin1_quiz_data WHERE recordno=%1 order by autono")
                             .arg(recordNo)),
-             emptied(course, QStringLiteral("quiz_data_New3")), core::quizCopyFields);
+             {course, QStringLiteral("quiz_data_New3")}, core::quizCopyFields);
     copyRows(masterRows(QStringLiteral("Select * from tovalin1_gram_tip WHERE recordno=%1 order by autono")
                             .arg(recordNo)),
-             emptied(course, QStringLiteral("gram_tip")), core::tipCopyFields);
-    copyRows(masterRows(basicRowsQuery(recordNo)), emptied(course, QStringLiteral("basic_Data")),
+             {course, QStringLiteral("gram_tip")}, core::tipCopyFields);
+    copyRows(masterRows(basicRowsQuery(recordNo)), {course, QStringLiteral("basic_Data")},
              core::basicCopyFields);
     if (recordNo == secondListStep)
         fillSecondList(course, master);

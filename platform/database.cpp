@@ -35,6 +35,16 @@ QSet<QString>& soundStores() {
     return stores;
 }
 
+/// Where the rows of working tables come from, for longer than a store is open: a screen opens it anew.
+QHash<QString, QString>& origins() {
+    static QHash<QString, QString> notes;
+    return notes;
+}
+
+QString originKey(const QString& file, const QString& table) {
+    return file + u'|' + table.toLower();
+}
+
 }  // namespace
 
 Database Database::open(const QString& file, const QString& shownName) {
@@ -62,6 +72,10 @@ void Database::flushFully() const {
 
 void Database::requireWritable() const {
     connection_->requireWritable();
+}
+
+void Database::noteOrigin(const QString& table, const QString& origin) const {
+    connection_->noteOrigin(table, origin);
 }
 
 Recordset Database::openRecordset(const QString& sql) const {
@@ -179,6 +193,14 @@ bool Connection::waitForOthers(const SQLite::Exception& failure, std::unique_ptr
     if (!wait)
         wait = std::make_unique<StoreWait>(shownName_);
     return wait->pause();
+}
+
+void Connection::noteOrigin(const QString& table, const QString& origin) {
+    origins().insert(originKey(file_, table), origin);
+}
+
+QString Connection::origin(const QString& table) const {
+    return origins().value(originKey(file_, table));
 }
 
 void Connection::requireSound() {

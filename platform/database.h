@@ -41,6 +41,8 @@ class Database {
     /// Tries to write without changing anything. Throws DatabaseFailure when the file, its folder or its disk
     /// takes no writing.
     void requireWritable() const;
+    /// Notes where the rows of a working table come from; messages on the table name it too.
+    void noteOrigin(const QString& table, const QString& origin) const;
     /// Lets the handle go; an unopened one stays as it is.
     void close() { connection_.reset(); }
 
@@ -94,6 +96,9 @@ class Connection {
     template <typename Work>
     auto guarded(Work work, const QString& table = {}) -> decltype(work());
     void flushFully();
+    void noteOrigin(const QString& table, const QString& origin);
+    /// Where a table's rows come from, empty where nobody noted it.
+    QString origin(const QString& table) const;
     /// Reads the store through. Throws UnrecognizedFormat when it is damaged.
     void requireSound();
     /// Throws as Database::requireWritable tells.

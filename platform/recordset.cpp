@@ -12,6 +12,14 @@
 
 namespace platform {
 
+namespace {
+
+// What a long text field of the old stores holds at most. Far longer ones stem from damage and would keep a
+// screen from ever being painted.
+constexpr qsizetype longestText = 65535;
+
+}  // namespace
+
 Recordset::Recordset(std::shared_ptr<Connection> connection, Query query)
     : connection_(std::move(connection)),
       shape_(connection_->shape(query.table)),
@@ -238,7 +246,15 @@ const Value& Recordset::value(int index) const {
         if (const auto set = pending_.find(index); set != pending_.end())
             return set->second;
     fetch();
-    return row_[static_cast<std::size_t>(index)];
+    const Value& content = row_[static_cast<std::size_t>(index)];
+    if (const auto* text = std::get_if<QString>(&content.content());
+        text != nullptr && text->size() > longestText)
+        throw RuntimeError(Fault::DatabaseFailure,
+                           QStringLiteral("A text of %1 letters is too long, %2 can be shown (%3).")
+                               .arg(text->size())
+                               .arg(longestText)
+                               .arg(location(shape_->columns[index])));
+    return content;
 }
 
 void Recordset::fetch() const {
@@ -266,11 +282,13 @@ auto Recordset::explain(const QString& field, Read read) const {
     try {
         return read(content);
     } catch (const RuntimeError& error) {
-        const QString row = index_ ? QStringLiteral(", row %1").arg(*index_ + 1) : QString();
-        throw RuntimeError(
-            error.fault(),
-            QStringLiteral("%1 (field '%2' of %3%4)").arg(error.sentence(), field, description(), row));
+        throw RuntimeError(error.fault(), QStringLiteral("%1 (%2)").arg(error.sentence(), location(field)));
     }
+}
+
+QString Recordset::location(const QString& field) const {
+    const QString row = index_ ? QStringLiteral(", row %1").arg(*index_ + 1) : QString();
+    return QStringLiteral("field '%1' of %2%3").arg(field, description(), row);
 }
 
 QString Recordset::text(const QString& field) const {
@@ -307,6 +325,8 @@ QString Recordset::description() const {
     QString text = QStringLiteral("table '%1' of '%2'").arg(query().table, connection_->shownName());
     if (!query().where.isEmpty())
         text += QStringLiteral(" where ") + query().where;
+    if (const QString origin = connection_->origin(query().table); !origin.isEmpty())
+        text += QStringLiteral(", filled from ") + origin;
     return text;
 }
 

@@ -62,7 +62,8 @@ class Recordset {
     QString fieldName(int index) const;
     /// The index of a field by its name in any case, -1 without one.
     int findField(const QString& field) const;
-    /// The current row's field. Throws NoCurrentRecord, ItemNotFound.
+    /// The current row's field. Throws NoCurrentRecord, ItemNotFound, and DatabaseFailure for a text that is
+    /// too long for any screen.
     const Value& value(const QString& field) const;
     const Value& value(int index) const;
     /// The field as text or 16-bit number; errors name store, table, field and row.
@@ -96,6 +97,8 @@ class Recordset {
     void insertRow();
     void updateRow();
     void requireCurrent() const;
+    /// "field F of table T of 'store' where …, row N", for messages.
+    QString location(const QString& field) const;
     template <typename Read>
     auto explain(const QString& field, Read read) const;
 

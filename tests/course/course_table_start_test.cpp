@@ -262,3 +262,13 @@ TEST_F(CourseTableStart, AStepNumberThatIsNoNumberIsToldWithItsTableAndRow) {
     EXPECT_TRUE(desk.failure().contains("field 'recordno' of table 'tablework' of 'D:\\\\tovalin.mdb'"))
         << desk.failure().toStdString();
 }
+
+TEST_F(CourseTableStart, MoreUnitsThanItHasRoomForAreToldWithTheirTable) {
+    for (int unit = 4; unit <= 25; ++unit)
+        desk.exec(support::courseStore, "insert into topic values(" + std::to_string(unit) + ",'더')");
+    addUnit(1, 1, 1);
+    openTable();
+    EXPECT_TRUE(desk.failure().contains("24 units") &&
+                desk.failure().contains("'topic' of 'D:\\\\tovalin.mdb'"))
+        << desk.failure().toStdString();
+}

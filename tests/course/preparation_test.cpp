@@ -175,3 +175,35 @@ TEST_F(PrepareStep, AMasterTableWithTooFewColumnsEndsTheRunAndLeavesTheOldConten
     EXPECT_EQ(faultOf([&] { prepare(5); }), 3265);
     EXPECT_EQ(course("select word1 from basic_Data"), QStringList{"old"});
 }
+
+TEST(PrepareStepData, AWordWithoutItsTextIsToldWithItsTableAndRowBeforeTheStepStarts) {
+    for (const char* field : {"word", "korean"}) {
+        Desk desk;
+        desk.exec(courseStore,
+                  "insert into newword(recordno,word,korean) values(3,'pear','배'),(3,'fig','무화과')");
+        desk.exec(courseStore, std::string("update newword set ") + field + "=NULL where word='fig'");
+        desk.session.recordNo = 3;
+        desk.session.wordNo = 2;
+        QString sentence;
+        EXPECT_EQ(support::faultOf([&] { course::PrepareStepData(desk.context()); }, &sentence), 94);
+        for (const QString& part :
+             {QStringLiteral("'%1'").arg(QLatin1String(field)), QStringLiteral("'newword'"),
+              QStringLiteral("D:\\\\tovalin.mdb"), QStringLiteral("row 2")})
+            EXPECT_TRUE(sentence.contains(part)) << part.toStdString() << " in " << sentence.toStdString();
+    }
+}
+
+TEST(PrepareStepData, WhatIsWrongWithAMasterRowIsToldWithTheMasterStore) {
+    Desk desk;
+    desk.exec(masterStore, "insert into tovalin1_quiz_data(topicno,recordno,orderno,autono) values(1,5,1,1)");
+    desk.session.recordNo = 5;
+    course::PrepareStepData(desk.context());
+    const platform::Database course =
+        platform::Database::open(desk.file(courseStore), QStringLiteral("D:\\\\tovalin.mdb"));
+    const auto rows = course.openRecordset("Select * from quiz_data_New3 where recordno=5");
+    QString sentence;
+    EXPECT_EQ(support::faultOf([&] { rows.text("q1"); }, &sentence), 94);
+    EXPECT_TRUE(sentence.contains(
+        "filled from table 'tovalin1_quiz_data' of 'D:\\\\Tovalin_Data.mdb' where recordno=5"))
+        << sentence.toStdString();
+}

@@ -300,3 +300,33 @@ TEST_F(RecordsetTest, ARowThatTakesTheKeyOfADeletedOneIsTheOneThatIsFound) {
     EXPECT_EQ(words(set), (QStringList{"pear", "Apple", "fig", "APPLE"}));
     EXPECT_EQ(set.recordCount(), 4);
 }
+
+TEST_F(RecordsetTest, ATextThatNoScreenCouldShowIsToldWithItsPlace) {
+    EXPECT_EQ(store.rows("select count(*) from words"), QStringList{"5"});
+    {
+        SQLite::Database other(store.file().toStdString(), SQLite::OPEN_READWRITE);
+        other.exec(
+            "update words set note=printf('%.*c', 3000000, 'x') where orderno=4;"
+            "update words set note=printf('%.*c', 65535, 'x') where orderno=3");
+    }
+    const Recordset set = open("where orderno=4");
+    for (const bool orEmpty : {false, true}) {
+        QString sentence;
+        EXPECT_EQ(faultOf([&] { orEmpty ? set.textOrEmpty("note") : set.text("note"); }, &sentence), 3049);
+        for (const char* part : {"3000000 letters", "'note'", "'words'", "D:\\tovalin.mdb", "row 1"})
+            EXPECT_TRUE(sentence.contains(part)) << part << " in " << sentence.toStdString();
+    }
+    EXPECT_EQ(set.text("word"), "kiwi");
+    EXPECT_EQ(open("where orderno=3").text("note").size(), 65535);
+}
+
+TEST_F(RecordsetTest, MessagesOnAWorkingTableNameWhereItsRowsComeFrom) {
+    database.noteOrigin("Words", "table 'master' of 'D:\\Tovalin_Data.mdb'");
+    const Recordset set = open("where orderno=5");
+    QString sentence;
+    EXPECT_EQ(faultOf([&] { set.text("note"); }, &sentence), 94);
+    EXPECT_TRUE(
+        sentence.contains("'words' of 'D:\\tovalin.mdb' where orderno=5, filled from table 'master' of "
+                          "'D:\\Tovalin_Data.mdb', row 1"))
+        << sentence.toStdString();
+}
