@@ -52,12 +52,16 @@ bool StoreWait::pause() {
 
 void StoreWait::showBox() {
     shown = this;
+    waiting_.emplace(Waiting::Input::Box);
+    QWidget* below = QApplication::activeModalWidget();
+    if (below == nullptr)
+        below = QApplication::activeWindow();
     box_ = new QMessageBox(
         QMessageBox::Information, defaultBoxTitle(),
         QStringLiteral("다른 프로그램이 학습 데이타를 쓰고 있습니다. 끝나면 바로 이어집니다.\n\n"
                        "Another program is using '%1'. The course goes on as soon as it is free.")
             .arg(shownName_),
-        QMessageBox::Cancel, QApplication::activeWindow());
+        QMessageBox::Cancel, below);
     box_->setObjectName(QStringLiteral("storeWaitBox"));
     box_->setWindowModality(Qt::ApplicationModal);
     dressBox(*box_);

@@ -1,16 +1,20 @@
 #pragma once
 
+#include "platform/waiting.h"
+
 #include <QElapsedTimer>
 #include <QPointer>
 #include <QString>
+
+#include <optional>
 
 class QMessageBox;
 
 namespace platform {
 
 /// The wait for a store that another program holds. On a desktop a box tells at once what is waited for, the
-/// screen goes on being painted, and the learner can give up; without one it is given up by itself after a
-/// while. The box goes when the wait ends.
+/// screen goes on being painted while nothing of the course runs, and the learner can give up; without one it
+/// is given up by itself after a while. The box goes when the wait ends.
 class StoreWait {
    public:
     explicit StoreWait(QString shownName);
@@ -28,6 +32,7 @@ class StoreWait {
     QString shownName_;
     QElapsedTimer since_;
     QPointer<QMessageBox> box_;
+    std::optional<Waiting> waiting_;
     bool mayShow_ = false;
 };
 
