@@ -20,6 +20,11 @@ Screen::Screen(Context& context, const QString& name, QSize designSize)
     onCloseRequest = [this] { endProgram(); };
 }
 
+void Screen::orderTabs() {
+    putLast(
+        {findChild<QWidget*>(QStringLiteral("picExit")), findChild<QWidget*>(QStringLiteral("picExit2"))});
+}
+
 void Screen::loadBackground(const QString& relativePath) {
     const auto picture = applicationFile(context_, relativePath);
     setBackground(platform::loadPicture(picture.file, picture.shownName, devicePixelRatioF() * scale()),

@@ -13,6 +13,9 @@ class Screen : public platform::Form {
     Screen(Context& context, const QString& name, QSize designSize);
 
    protected:
+    /// The ways out come last, what ends the program at the very end.
+    void orderTabs() override;
+
     Context& context() const { return context_; }
     Session& session() const { return context_.session; }
 

@@ -21,13 +21,15 @@ class CourseTable final : public core::Screen {
    public:
     explicit CourseTable(core::Context& context);
 
+   protected:
+    void orderTabs() override;
+
    private:
     static constexpr int hoverButtonCount = 7;
 
     void buildHeader();
     void buildTopics();
     void buildRows();
-    void orderTabs();
     /// Shows a button at rest (1) or lit (2).
     void showButton(int index, int state);
     void firstTick();

@@ -30,9 +30,9 @@ constexpr int upButton = 1;
 const std::array hoverButtons{
     HoverButton{"picDown", "down", QRect(872, 644, 40, 30), "Next page"},
     HoverButton{"picUp", "up", QRect(780, 644, 40, 30), "Previous page"},
-    HoverButton{"picVideo", "video", QRect(620, 10, 100, 40), "Video lessons"},
-    HoverButton{"picFinal", "finaltest", QRect(726, 10, 100, 40), "Final test"},
-    HoverButton{"picRepeat", "worksheet", QRect(514, 10, 100, 40), "Worksheets"},
+    HoverButton{"picVideo", "video", QRect(726, 10, 100, 40), "Video lessons"},
+    HoverButton{"picFinal", "finaltest", QRect(514, 10, 100, 40), "Final test"},
+    HoverButton{"picRepeat", "worksheet", QRect(620, 10, 100, 40), "Worksheets"},
     HoverButton{"picStudy", "study", QRect(408, 10, 100, 40), "Study"},
     HoverButton{"picExit", "exit", QRect(832, 10, 100, 40), "Exit"},
 };
@@ -51,7 +51,6 @@ CourseTable::CourseTable(core::Context& context) : Screen(context, QStringLitera
     buildTopics();
     buildRows();
     clearRows();
-    orderTabs();
     timerGo_ = new platform::Timer(QStringLiteral("TimerGo"), 1, this);
     timerGo_->onTick = [this] { firstTick(); };
     timerGo_->setEnabled(true);
@@ -152,16 +151,14 @@ void CourseTable::buildRows() {
             label->setCursor(lblRecordNo_(0).cursor());
 }
 
-/// Tab goes along the header, then down the units and the steps.
+/// Tab goes down the units and the steps, then along the buttons.
 void CourseTable::orderTabs() {
-    std::vector<QWidget*> stops;
-    for (const char* name : {"picStudy", "picRepeat", "picVideo", "picFinal", "picExit"})
-        stops.push_back(findChild<PictureButton*>(QLatin1String(name)));
-    stops.insert(stops.end(), lblTopic_.begin(), lblTopic_.end());
+    std::vector<QWidget*> stops(lblTopic_.begin(), lblTopic_.end());
     stops.insert(stops.end(), lblTitle_.begin(), lblTitle_.end());
     stops.insert(stops.end(), {picUp_, picDown_});
-    for (std::size_t i = 1; i < stops.size(); ++i)
-        setTabOrder(stops[i - 1], stops[i]);
+    for (const char* name : {"picStudy", "picRepeat", "picVideo", "picFinal", "picExit"})
+        stops.push_back(findChild<PictureButton*>(QLatin1String(name)));
+    putLast(stops);
 }
 
 void CourseTable::showButton(int index, int state) {

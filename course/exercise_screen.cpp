@@ -84,6 +84,15 @@ void ExerciseScreen::buildCaptions(const ChromeLayout& layout) {
     addLabel(QLatin1String(layout.topicName), QRect(24, 20, 640, 36), TextRole::Title, session().stepTitle);
 }
 
+std::vector<QWidget*> ExerciseScreen::afterAnswers() const {
+    return {picQuiz_, picBegin_};
+}
+
+void ExerciseScreen::orderTabs() {
+    putLast(afterAnswers());
+    putLast({picNext_, picPre_, picTable_, picExit_});
+}
+
 void ExerciseScreen::tick() {
     if (!timerGo_->enabled() || isUnloaded())
         return;

@@ -52,6 +52,10 @@ class ExerciseScreen : public core::Screen {
     /// What else goes back to rest when the mouse crosses the form.
     virtual void restoreHover() {}
 
+    /// What follows the answers in the order of Tab: the button that checks them, and Begin. The buttons that
+    /// leave the screen come after these on every screen.
+    virtual std::vector<QWidget*> afterAnswers() const;
+
     virtual void beginClicked() {}
     virtual void quizClicked() {}
     /// Asks, checks that nothing begun is unfinished, and moves on.
@@ -87,6 +91,7 @@ class ExerciseScreen : public core::Screen {
    private:
     struct ChromeButton;
 
+    void orderTabs() final;
     void buildChrome(const ChromeLayout& layout);
     void buildCaptions(const ChromeLayout& layout);
     void buttonHovered(PictureButton& button, const char* picture, bool pictureFirst);

@@ -1,6 +1,7 @@
 #include "platform/controls.h"
 
 #include "platform/hangul.h"
+#include "platform/input_gate.h"
 #include "platform/waiting.h"
 
 #include <QInputMethodEvent>
@@ -36,6 +37,13 @@ constexpr std::array keyPairs{
     KeyPair{Qt::Key_Right, key::right},
     KeyPair{Qt::Key_Down, key::down},
 };
+
+/// Runs a handler of a control, unless its form has left the screen.
+template <typename... Parameters, typename... Arguments>
+void act(const QWidget& control, const std::function<void(Parameters...)>& handler, Arguments... arguments) {
+    if (!hasLeft(control))
+        run(handler, arguments...);
+}
 
 void setColour(QWidget& widget, QPalette::ColorRole role, QRgb colour) {
     QPalette palette = widget.palette();
@@ -121,6 +129,8 @@ Label::Label(QWidget* parent) : QLabel(parent) {
 }
 
 void Label::setCaption(const QString& caption) {
+    if (text() != caption)
+        noteChange(*this);
     setText(caption);
     if (focusPolicy() != Qt::NoFocus)
         setAccessibleName(caption);
@@ -164,19 +174,19 @@ void Label::mouseReleaseEvent(QMouseEvent* event) {
     const bool clicked = pressed_ && event->button() == Qt::LeftButton && rect().contains(event->pos());
     pressed_ = false;
     if (clicked)
-        run(onClick);
+        act(*this, onClick);
 }
 
 void Label::mouseMoveEvent(QMouseEvent* event) {
     event->accept();
-    run(onMouseMove);
+    act(*this, onMouseMove);
 }
 
 void Label::keyPressEvent(QKeyEvent* event) {
     const bool presses =
         event->key() == Qt::Key_Space || event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
     if (presses && onClick && !event->isAutoRepeat())
-        run(onClick);
+        act(*this, onClick);
     else
         QLabel::keyPressEvent(event);
 }
@@ -204,7 +214,7 @@ void Label::paintEvent(QPaintEvent* event) {
 TextBox::TextBox(QWidget* parent) : QLineEdit(parent) {
     setAttribute(Qt::WA_InputMethodEnabled, false);
     setContextMenuPolicy(Qt::NoContextMenu);
-    connect(this, &QLineEdit::textChanged, this, [this] { run(onChange); });
+    connect(this, &QLineEdit::textChanged, this, [this] { act(*this, onChange); });
 }
 
 void TextBox::setForeColor(QRgb colour) {
@@ -246,7 +256,7 @@ void TextBox::selectAndFocus() {
 void TextBox::keyPressEvent(QKeyEvent* event) {
     const int code = keyCode(event->key());
     if (code != 0)
-        run(onKeyDown, code);
+        act(*this, onKeyDown, code);
     // Enter belongs to the form: it moves between boxes and never edits one.
     if (code == key::enter)
         return;
@@ -270,7 +280,7 @@ void TextBox::inputMethodEvent(QInputMethodEvent* event) {
 void TextBox::mouseReleaseEvent(QMouseEvent* event) {
     QLineEdit::mouseReleaseEvent(event);
     if (event->button() == Qt::LeftButton && rect().contains(event->pos()))
-        run(onClick);
+        act(*this, onClick);
 }
 
 void TextBox::mouseMoveEvent(QMouseEvent* event) {
@@ -311,19 +321,27 @@ void StoryBox::resizeEvent(QResizeEvent* event) {
 
 DropList::DropList(QWidget* parent) : QComboBox(parent) {
     setMaxVisibleItems(16);
-    connect(this, &QComboBox::activated, this, [this] { run(onClick); });
+    connect(this, &QComboBox::activated, this, [this] { act(*this, onClick); });
+}
+
+void DropList::keyPressEvent(QKeyEvent* event) {
+    // A letter typed here was meant for a box; it must not pick the entry that begins with it.
+    if (isTyped(*event) && event->key() != Qt::Key_Space)
+        event->ignore();
+    else
+        QComboBox::keyPressEvent(event);
 }
 
 CommandButton::CommandButton(const QString& caption, QWidget* parent) : QPushButton(caption, parent) {
     setAccessibleName(caption);
     setMouseTracking(true);
-    connect(this, &QPushButton::clicked, this, [this] { run(onClick); });
+    connect(this, &QPushButton::clicked, this, [this] { act(*this, onClick); });
 }
 
 PictureButton::PictureButton(QWidget* parent) : QAbstractButton(parent) {
     setMouseTracking(true);
     setFocusPolicy(Qt::TabFocus);
-    connect(this, &QAbstractButton::clicked, this, [this] { run(onClick); });
+    connect(this, &QAbstractButton::clicked, this, [this] { act(*this, onClick); });
 }
 
 void PictureButton::setPicture(const QPixmap& picture, const QString& fileName) {
@@ -345,12 +363,12 @@ void PictureButton::paintEvent(QPaintEvent*) {
 void PictureButton::mouseMoveEvent(QMouseEvent* event) {
     QAbstractButton::mouseMoveEvent(event);
     event->accept();
-    run(onMouseMove);
+    act(*this, onMouseMove);
 }
 
 void PictureButton::enterEvent(QEnterEvent* event) {
     QAbstractButton::enterEvent(event);
-    run(onMouseMove);
+    act(*this, onMouseMove);
 }
 
 }  // namespace platform

@@ -123,6 +123,9 @@ class DropList : public QComboBox {
     QString text() const { return currentText(); }
 
     std::function<void()> onClick;
+
+   protected:
+    void keyPressEvent(QKeyEvent* event) override;
 };
 
 class CommandButton : public QPushButton {

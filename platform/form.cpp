@@ -1,5 +1,7 @@
 #include "platform/form.h"
 
+#include "platform/input_gate.h"
+#include "platform/timer.h"
 #include "platform/waiting.h"
 
 #include <QApplication>
@@ -10,6 +12,7 @@
 #include <QScreen>
 
 #include <algorithm>
+#include <utility>
 
 namespace platform {
 
@@ -41,6 +44,7 @@ void Frame::closeEvent(QCloseEvent* event) {
 
 Form::Form(const QString& name, QSize designSize, QWidget* frame)
     : QWidget(frame, Qt::Dialog | Qt::FramelessWindowHint), designSize_(designSize) {
+    watchInput();
     setObjectName(name);
     setWindowModality(Qt::ApplicationModal);
     setMouseTracking(true);
@@ -160,6 +164,8 @@ void Form::unload() {
     if (unloaded_)
         return;
     unloaded_ = true;
+    for (Timer* timer : findChildren<Timer*>())
+        timer->setEnabled(false);
     hide();
     // Without a window manager nobody hands the keyboard back to the window below.
     if (parentWidget() != nullptr)
@@ -180,12 +186,39 @@ void Form::paintEvent(QPaintEvent*) {
 
 void Form::mouseMoveEvent(QMouseEvent* event) {
     event->accept();
-    run(onMouseMove);
+    if (!unloaded_)
+        run(onMouseMove);
 }
 
 void Form::closeEvent(QCloseEvent* event) {
     event->ignore();
-    runOrLater(this, onCloseRequest);
+    if (!unloaded_)
+        runOrLater(this, onCloseRequest);
+}
+
+void Form::showEvent(QShowEvent* event) {
+    QWidget::showEvent(event);
+    if (std::exchange(tabsOrdered_, true))
+        return;
+    orderTabs();
+}
+
+void Form::putLast(const std::vector<QWidget*>& controls) {
+    // The order is a ring, and the toolkit takes its first control for the one behind the last already,
+    // unless the form stands between them.
+    const Qt::FocusPolicy policy = focusPolicy();
+    setFocusPolicy(Qt::TabFocus);
+    for (QWidget* control : controls) {
+        if (control == nullptr)
+            continue;
+        // Only a control that takes the keyboard can have another put behind it.
+        QWidget* last = previousInFocusChain();
+        while (last != this && (last->focusPolicy() == Qt::NoFocus || last->parentWidget() != this))
+            last = last->previousInFocusChain();
+        if (last != control)
+            setTabOrder(last, control);
+    }
+    setFocusPolicy(policy);
 }
 
 // A control that is hidden or disabled while it has the keyboard leaves it to the form: its neighbour in the

@@ -67,6 +67,13 @@ class Form : public QWidget {
     std::function<void()> onUnload;
 
    protected:
+    /// Called once, as the form comes up with all its controls: brings them into the order of Tab, which is
+    /// else that of their making.
+    virtual void orderTabs() {}
+    /// Moves controls to the end of the order of Tab, one after the other; null stands for none.
+    void putLast(const std::vector<QWidget*>& controls);
+
+    void showEvent(QShowEvent* event) override;
     void paintEvent(QPaintEvent* event) override;
     void mouseMoveEvent(QMouseEvent* event) override;
     void closeEvent(QCloseEvent* event) override;
@@ -78,6 +85,7 @@ class Form : public QWidget {
     QSize designSize_;
     double scale_ = 1.0;
     bool unloaded_ = false;
+    bool tabsOrdered_ = false;
     QPixmap background_;
 };
 

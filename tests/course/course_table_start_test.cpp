@@ -125,6 +125,43 @@ TEST_F(CourseTableStart, WorksheetsAndVideosOpenOverTheTable) {
     EXPECT_TRUE(table->isVisible());
 }
 
+TEST_F(CourseTableStart, AfterItHasLeftNoPressReachesItsHandlers) {
+    const QList<QWidget*> controls = table->findChildren<QWidget*>();
+    QTest::mouseClick(&label("lblTitle", 0), Qt::LeftButton);
+    ASSERT_FALSE(table.isNull());
+    ASSERT_TRUE(table->isUnloaded());
+    const QStringList asked = navigator.screens();
+    for (QWidget* control : controls) {
+        QTest::mouseClick(control, Qt::LeftButton);
+        if (auto* button = qobject_cast<QAbstractButton*>(control))
+            button->click();
+    }
+    EXPECT_EQ(desk.failure(), "");
+    EXPECT_EQ(navigator.screens(), asked);
+    EXPECT_FALSE(navigator.ended);
+    EXPECT_TRUE(desk.boxes.shown.empty());
+}
+
+TEST_F(CourseTableStart, WhatEndsSomethingStandsNowhereThatBackToTheTableStood) {
+    // The exercise screens' button, in the places of the table: both forms stand in the middle of the screen.
+    const QRect back(QPoint(688 - (993 - 950) / 2, 16 - (718 - 700) / 2), QSize(136, 44));
+    for (const char* button : {"picFinal", "picExit"})
+        EXPECT_FALSE(table->placeOf(picture(button)).intersects(back)) << button;
+}
+
+TEST_F(CourseTableStart, TabComesToTheWaysOutLast) {
+    QStringList stops;
+    table->setFocus();
+    for (int i = 0; i < 60 && !stops.endsWith("picExit"); ++i) {
+        QTest::keyClick(table->focusWidget(), Qt::Key_Tab);
+        stops.append(support::focusName(table));
+    }
+    ASSERT_GE(stops.size(), 6);
+    EXPECT_EQ(stops.first(), "lblTopic(0)");
+    EXPECT_EQ(stops.mid(stops.size() - 5),
+              (QStringList{"picStudy", "picRepeat", "picVideo", "picFinal", "picExit"}));
+}
+
 TEST_F(CourseTableStart, PicFinalShowsItsMessageAndLeavesOnlyTheFrame) {
     desk.boxes.onShow = [&](const platform::Message&) { EXPECT_TRUE(table->isUnloaded()); };
     press("picFinal");
