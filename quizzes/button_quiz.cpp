@@ -1,5 +1,7 @@
 #include "quizzes/button_quiz.h"
 
+#include "platform/input_gate.h"
+
 namespace quizzes {
 
 namespace {
@@ -40,6 +42,13 @@ void ButtonQuiz::prepare() {
         movePlace(button, left + i * buttonPitch, buttonTop);
     }
     lblMemo_->setCaption(QString::fromUtf8(set.memo));
+}
+
+void ButtonQuiz::showQuestion(bool) {
+    fillAllShown();
+    // The buttons keep their captions and answer another question.
+    for (const platform::CommandButton* button : cmdOne_)
+        platform::noteChange(*button);
 }
 
 void ButtonQuiz::pressed(int index) {

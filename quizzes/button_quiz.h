@@ -13,7 +13,7 @@ class ButtonQuiz final : public QuestionQuiz {
 
    protected:
     void prepare() override;
-    void showQuestion(bool) override { fillAllShown(); }
+    void showQuestion(bool first) override;
     void chooseByDigit(int number) override;
 
    private:

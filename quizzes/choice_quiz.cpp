@@ -1,5 +1,7 @@
 #include "quizzes/choice_quiz.h"
 
+#include "platform/input_gate.h"
+
 #include <utility>
 
 namespace quizzes {
@@ -23,6 +25,13 @@ void ChoiceQuiz::lightUpChoices() {
         for (Label* choice : choices())
             choice->setForeColor(platform::colour::black);
     };
+}
+
+void ChoiceQuiz::showQuestion(bool) {
+    fillAllShown();
+    // Where both questions offer the same words the choices look the same.
+    for (const Label* choice : choices())
+        platform::noteChange(*choice);
 }
 
 void ChoiceQuiz::chosen(std::size_t index) {

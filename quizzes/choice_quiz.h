@@ -11,7 +11,7 @@ class ChoiceQuiz final : public QuestionQuiz {
     ChoiceQuiz(core::Context& context, const QuizEntry& entry);
 
    protected:
-    void showQuestion(bool) override { fillAllShown(); }
+    void showQuestion(bool first) override;
 
    private:
     void lightUpChoices();

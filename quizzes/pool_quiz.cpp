@@ -1,5 +1,6 @@
 #include "quizzes/pool_quiz.h"
 
+#include "platform/input_gate.h"
 #include "quizzes/fitted_text.h"
 
 namespace quizzes {
@@ -14,10 +15,10 @@ constexpr std::size_t pool = 2;
 }  // namespace
 
 PoolQuiz::PoolQuiz(core::Context& context, const QuizEntry& entry) : TableQuiz(context, entry) {
-    platform::CommandButton& reset = addButton(
-        QStringLiteral("cmdReset"), QRect(course::sideLeft, 264, 104, 40), QStringLiteral("Re-Set"));
-    reset.setAutoDefault(true);
-    reset.onClick = [this] { emptySlots(); };
+    cmdReset_ = &addButton(QStringLiteral("cmdReset"), QRect(course::sideLeft, 264, 104, 40),
+                           QStringLiteral("Re-Set"));
+    cmdReset_->setAutoDefault(true);
+    cmdReset_->onClick = [this] { emptySlots(); };
     for (int row = 0; row < tableRows; ++row) {
         cell(pool, row).onClick = [this, row] { poolClicked(row); };
         cell(slot, row).onClick = [this, row] { slotClicked(row); };
@@ -25,10 +26,15 @@ PoolQuiz::PoolQuiz(core::Context& context, const QuizEntry& entry) : TableQuiz(c
     // Tab goes down the pool before it comes to the slots.
     for (int row = 1; row < tableRows; ++row)
         setTabOrder(&cell(pool, row - 1), &cell(pool, row));
-    setTabOrder(&cell(pool, tableRows - 1), &reset);
-    setTabOrder(&reset, &cell(slot, 0));
+    setTabOrder(&cell(pool, tableRows - 1), &cell(slot, 0));
     for (int row = 1; row < tableRows; ++row)
         setTabOrder(&cell(slot, row - 1), &cell(slot, row));
+}
+
+std::vector<QWidget*> PoolQuiz::afterAnswers() const {
+    std::vector<QWidget*> controls = TableQuiz::afterAnswers();
+    controls.insert(controls.begin(), cmdReset_);
+    return controls;
 }
 
 void PoolQuiz::fillRows() {
@@ -75,6 +81,8 @@ void PoolQuiz::poolClicked(int row) {
     target.setForeColor(platform::colour::black);
     target.setMark(platform::BoxMark::None);
     slotNo_ += 1;
+    // The next pick of the same word fills the next slot.
+    platform::noteChange(cell(pool, row));
 }
 
 void PoolQuiz::chooseByDigit(int number) {

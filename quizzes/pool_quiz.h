@@ -12,6 +12,7 @@ class PoolQuiz final : public TableQuiz {
     PoolQuiz(core::Context& context, const QuizEntry& entry);
 
    protected:
+    std::vector<QWidget*> afterAnswers() const override;
     void begin() override;
     void fillRows() override;
     void beforeJudging() override;
@@ -26,6 +27,7 @@ class PoolQuiz final : public TableQuiz {
     void poolClicked(int row);
     void slotClicked(int row);
 
+    platform::CommandButton* cmdReset_ = nullptr;
     Int16 slotNo_;
 };
 
