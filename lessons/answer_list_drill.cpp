@@ -23,6 +23,13 @@ AnswerListDrill::AnswerListDrill(core::Context& context, const Drill& drill) : D
         txtWord(i).onClick = [this, i] { boxClicked(i); };
 }
 
+std::vector<QWidget*> AnswerListDrill::afterAnswers() const {
+    // Not next to the boxes: a learner who goes on by Tab must not type into the list.
+    std::vector<QWidget*> controls = DrillScreen::afterAnswers();
+    controls.push_back(comBo1_);
+    return controls;
+}
+
 void AnswerListDrill::firstTick() {
     DrillScreen::firstTick();
     if (basicRs.isEmpty())

@@ -11,6 +11,7 @@ class AnswerListDrill final : public DrillScreen {
     AnswerListDrill(core::Context& context, const Drill& drill);
 
    protected:
+    std::vector<QWidget*> afterAnswers() const override;
     void firstTick() override;
     void beginClicked() override;
     void boxesCleared() override;

@@ -22,6 +22,7 @@ class SpellingCoach final : public course::ExerciseScreen {
     explicit SpellingCoach(core::Context& context);
 
    protected:
+    std::vector<QWidget*> afterAnswers() const override;
     void firstTick() override;
     void closeRecordsets() override;
     void nextClicked() override;

@@ -46,6 +46,12 @@ SpellingCoach::SpellingCoach(core::Context& context)
     txtWord_->setFocus();
 }
 
+std::vector<QWidget*> SpellingCoach::afterAnswers() const {
+    std::vector<QWidget*> controls{cmdAnswer_, cmdPractice_};
+    controls.insert(controls.end(), picUp_.begin(), picUp_.end());
+    return controls;
+}
+
 void SpellingCoach::buildTexts() {
     addLabel(
         QStringLiteral("lblMemo"), QRect(left, 106, 790, 22), TextRole::Body,
