@@ -1,5 +1,7 @@
 #include "lessons/drill_judge.h"
 
+#include "platform/letter_case.h"
+
 namespace lessons {
 
 QString typedWord(const QString& boxText) {
@@ -27,7 +29,7 @@ QString unmatchedRowCriterion(const QString& word) {
 }
 
 bool isClozeAnswer(const QString& word, const QString& boxText) {
-    return word.toLower() == typedWord(boxText);
+    return platform::sameButForCase(word, typedWord(boxText));
 }
 
 QString firstLetter(const QString& word) {

@@ -3,6 +3,7 @@
 #include "platform/connection_guard.h"
 
 #include "platform/error.h"
+#include "platform/letter_case.h"
 #include "platform/recordset.h"
 #include "platform/store_faults.h"
 
@@ -105,6 +106,7 @@ Connection::Connection(const QString& file, QString shownName)
     : file_(file), shownName_(std::move(shownName)) {
     guarded([&] {
         sqlite_ = std::make_unique<SQLite::Database>(file.toStdString(), SQLite::OPEN_READWRITE, busyTimeout);
+        compareStoredTextsButForCase(sqlite_->getHandle());
     });
 }
 

@@ -1,6 +1,7 @@
 #include "quizzes/judges.h"
 
 #include "core/text.h"
+#include "platform/letter_case.h"
 
 #include <algorithm>
 
@@ -103,8 +104,8 @@ constexpr std::array sentenceRules{
 bool matches(Compare compare, const QString& answer, const QString& field) {
     switch (compare) {
         case Compare::Exact: return answer == field;
-        case Compare::LowerCase: return answer.toLower() == field.toLower();
-        case Compare::TrimmedLowerCase: return answer.trimmed().toLower() == field.trimmed().toLower();
+        case Compare::LowerCase: return platform::sameButForCase(answer, field);
+        case Compare::TrimmedLowerCase: return platform::sameButForCase(answer.trimmed(), field.trimmed());
         case Compare::LetterByLetter: return answer.startsWith(field, Qt::CaseSensitive);
         case Compare::ByRecord: break;
     }

@@ -1,5 +1,7 @@
 #include "vocabulary/spelling.h"
 
+#include "platform/letter_case.h"
+
 #include <QStringView>
 
 namespace vocabulary {
@@ -62,7 +64,7 @@ QString joinShown(const BoxRow& row) {
 }
 
 bool sameWord(const QString& typed, const QString& word) {
-    return typed.toLower() == word.toLower();
+    return platform::sameButForCase(typed, word);
 }
 
 std::optional<int> firstOpenBox(const BoxRow& row, const FocusSearch& search) {
