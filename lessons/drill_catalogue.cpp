@@ -245,7 +245,7 @@ constexpr std::array drills{
         .instruction = "<Begin>를 클릭합니다.   빈칸에 답을 입력하거나 ",
         .layout = &layouts::prepositions,
         .boxColour = BoxColour::White,
-        .boxText = platform::TextRole::Caption,
+        .boxText = platform::TextRole::DrillPhrase,
         .boxes = 30,
         .ruleLines = 3,
         .prompts = 30,

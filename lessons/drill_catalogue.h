@@ -71,7 +71,7 @@ struct Drill {
     const char* instructionName = "Label1";
     const DrillLayout* layout = nullptr;
     BoxColour boxColour = BoxColour::PaleCyan;
-    platform::TextRole boxText = platform::TextRole::Answer;
+    platform::TextRole boxText = platform::TextRole::DrillBox;
     bool hasBegin = true;
 
     // Counts. The form may have a box more than the screen uses.

@@ -6,6 +6,8 @@
 #include "course/walk.h"
 #include "lessons/box_keys.h"
 
+#include <QFontMetrics>
+
 namespace lessons {
 
 using platform::TextRole;
@@ -15,6 +17,10 @@ namespace {
 // What boxes and prompts hold by design, and go on holding where a step has fewer rows than the form boxes.
 const QString samplePrompt = QStringLiteral("house");
 const QString sampleAnswer = QStringLiteral("houses");
+
+constexpr int narrowBox = 100;
+// A text that is too long for its box is written smaller, down to this.
+constexpr int leastPixels = 9;
 
 course::ChromeLayout chromeOf(const Drill& drill) {
     course::ChromeLayout chrome;
@@ -102,8 +108,9 @@ void DrillForm::buildBox(const GridBlock& block, int n) {
     TextBox& box = addTextBox(txtWord, boxPlace(block, n), drill_.boxText);
     const int index = txtWord.size() - 1;
     box.setFocusPolicy(Qt::ClickFocus);
-    // Room for the sign at the right edge.
-    box.setTextMargins(8, 0, 14, 0);
+    // Room for the sign at the right edge, which is as high as the box.
+    const bool narrow = block.box.width() < narrowBox;
+    box.setTextMargins(narrow ? 1 : 8, 0, narrow ? 12 : 14, 0);
     box.setBackColor(boxColour(drill_, index));
     box.setAccessibleName(QStringLiteral("Box %1").arg(index + 1));
     box.setVisible(index < drill_.boxes);
@@ -111,8 +118,20 @@ void DrillForm::buildBox(const GridBlock& block, int n) {
     if (!drill_.countsRows)
         box.setText(sampleAnswer);
     // A sign stands for the answer it was given for; a box that stays locked goes on telling that it is.
-    box.onChange = [&box] { box.setMark(box.locked() ? platform::BoxMark::Given : platform::BoxMark::None); };
+    box.onChange = [this, &box] {
+        box.setMark(box.locked() ? platform::BoxMark::Given : platform::BoxMark::None);
+        fitText(box);
+    };
     box.onKeyDown = [this, index](int code) { keyDown(index, code); };
+}
+
+void DrillForm::fitText(TextBox& box) const {
+    QFont font = platform::roleFont(drill_.boxText, scale());
+    while (font.pixelSize() > leastPixels &&
+           QFontMetrics(font).horizontalAdvance(box.text()) > box.textRoom())
+        font.setPixelSize(font.pixelSize() - 1);
+    if (box.font().pixelSize() != font.pixelSize())
+        box.setFont(font);
 }
 
 int DrillForm::recordNo() const {

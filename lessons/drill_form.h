@@ -69,6 +69,7 @@ class DrillForm : public course::ExerciseScreen {
     void buildTexts();
     void buildGrid();
     void buildBox(const GridBlock& block, int n);
+    void fitText(TextBox& box) const;
     void keyDown(int box, int code);
     void readTip();
     void readRules();

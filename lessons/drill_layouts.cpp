@@ -22,7 +22,7 @@ constexpr RulePlaces rulesAbove(int lines, int pitch) {
 }
 
 constexpr std::array pluralGrid{GridBlock{
-    .count = 28, .lines = 7, .origin = {36, 414}, .pitch = {204, 40}, .box = {120, 30}, .promptWidth = 76}};
+    .count = 28, .lines = 7, .origin = {36, 420}, .pitch = {204, 40}, .box = {80, 20}, .promptWidth = 92}};
 
 constexpr std::array uncountableGrid{
     GridBlock{.count = 28, .lines = 7, .origin = {36, 414}, .pitch = {208, 40}, .box = {184, 30}}};

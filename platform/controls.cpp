@@ -9,7 +9,8 @@
 #include <QMouseEvent>
 #include <QPainter>
 #include <QPainterPath>
-#include <QStyleOptionFocusRect>
+#include <QStyle>
+#include <QStyleOption>
 #include <QtMath>
 
 #include <algorithm>
@@ -246,6 +247,15 @@ void TextBox::setMark(BoxMark mark) {
     mark_ = mark;
     setAccessibleDescription(markDescription(mark));
     update();
+}
+
+int TextBox::textRoom() const {
+    // The line edit keeps 2 pixels to either side for the caret.
+    constexpr int caretRoom = 2 * 2;
+    QStyleOptionFrame option;
+    initStyleOption(&option);
+    const QRect inside = style()->subElementRect(QStyle::SE_LineEditContents, &option, this);
+    return inside.marginsRemoved(textMargins()).width() - caretRoom;
 }
 
 void TextBox::selectAndFocus() {

@@ -85,6 +85,8 @@ class TextBox : public QLineEdit {
     /// A screen reader is told the same.
     void setMark(BoxMark mark);
     BoxMark mark() const { return mark_; }
+    /// The width that is left to the text, in pixels, beside margins and sign.
+    int textRoom() const;
     /// Selects the whole text and takes the focus, so that typing replaces it.
     void selectAndFocus();
 

@@ -15,31 +15,40 @@ namespace platform {
 
 namespace {
 
+constexpr const char* koreanFamily = "맑은 고딕";
+constexpr const char* latinFamily = "Tahoma";
+
 struct RoleLook {
     TextRole role;
     int pixels;
     bool bold;
+    const char* family = koreanFamily;
 };
 
 constexpr std::array looks{
-    RoleLook{TextRole::Title, 24, true},   RoleLook{TextRole::Heading, 17, true},
-    RoleLook{TextRole::Body, 14, false},   RoleLook{TextRole::Small, 12, false},
-    RoleLook{TextRole::Caption, 13, true}, RoleLook{TextRole::Prompt, 14, false},
-    RoleLook{TextRole::Answer, 14, true},  RoleLook{TextRole::Sentence, 24, false},
-    RoleLook{TextRole::Choice, 19, true},  RoleLook{TextRole::Letter, 22, true},
-    RoleLook{TextRole::Meaning, 28, true}, RoleLook{TextRole::Row, 17, false},
+    RoleLook{TextRole::Title, 24, true},
+    RoleLook{TextRole::Heading, 17, true},
+    RoleLook{TextRole::Body, 14, false},
+    RoleLook{TextRole::Small, 12, false},
+    RoleLook{TextRole::Caption, 13, true},
+    RoleLook{TextRole::Prompt, 14, false},
+    RoleLook{TextRole::Answer, 14, true},
+    RoleLook{TextRole::Sentence, 24, false},
+    RoleLook{TextRole::Choice, 19, true},
+    RoleLook{TextRole::Letter, 22, true},
+    RoleLook{TextRole::Meaning, 28, true},
+    RoleLook{TextRole::Row, 17, false},
+    // 9.75 and 8.25 points.
+    RoleLook{TextRole::DrillBox, 13, true, latinFamily},
+    RoleLook{TextRole::DrillPhrase, 11, true, latinFamily},
 };
-
-QString koreanFamily() {
-    return QStringLiteral("맑은 고딕");
-}
 
 }  // namespace
 
 QFont roleFont(TextRole role, double scale) {
     const auto look =
         std::find_if(looks.begin(), looks.end(), [&](const RoleLook& l) { return l.role == role; });
-    QFont font(koreanFamily());
+    QFont font(QString::fromUtf8(look->family));
     font.setPixelSize(std::max(8, qRound(look->pixels * scale)));
     font.setBold(look->bold);
     return font;
@@ -56,11 +65,11 @@ void drawAhead(TextRole role, const QString& text) {
 
 void setUpLook() {
     const QStringList families{QStringLiteral("NanumGothic"), QStringLiteral("Noto Sans CJK KR")};
-    QFont::insertSubstitutions(koreanFamily(), families);
-    QFont::insertSubstitutions(QStringLiteral("Tahoma"), families);
+    for (const char* family : {koreanFamily, latinFamily})
+        QFont::insertSubstitutions(QString::fromUtf8(family), families);
     // The application takes the style over.
     QApplication::setStyle(new CourseStyle);
-    QFont font(koreanFamily());
+    QFont font(QString::fromUtf8(koreanFamily));
     font.setPixelSize(14);
     QApplication::setFont(font);
     QPalette palette(QColor::fromRgb(0xffe9e5da));

@@ -18,7 +18,9 @@ enum class TextRole {
     Choice,
     Letter,
     Meaning,
-    Row
+    Row,
+    DrillBox,
+    DrillPhrase
 };
 
 namespace colour {

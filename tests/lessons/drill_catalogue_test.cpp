@@ -117,6 +117,36 @@ TEST(DrillCatalogue, AgreesWithItsLayouts) {
     }
 }
 
+TEST(DrillCatalogue, ThePluralBoxesAre1200By300TwipsAndHoldTheirAnswersWhole) {
+    DrillDesk desk(QStringLiteral("frmLesson"));
+    ASSERT_NE(desk.open(), nullptr);
+    for (int i = 0; i < 28; ++i)
+        EXPECT_EQ(desk.form().placeOf(desk.box(i)).size(), QSize(80, 20)) << i;
+    // The longest plurals of the starter course, beside the sign of right and wrong.
+    for (const char* word : {"countries", "tomatoes", "students", "children", "watches", "strawberries"})
+        for (const BoxMark mark : {BoxMark::None, BoxMark::Right, BoxMark::Wrong}) {
+            desk.box(0).setText(QLatin1String(word));
+            desk.box(0).setMark(mark);
+            EXPECT_LE(QFontMetrics(desk.box(0).font()).horizontalAdvance(QLatin1String(word)),
+                      desk.box(0).textRoom())
+                << word;
+        }
+}
+
+TEST(DrillCatalogue, AnswersStandInBoldTahomaAndPhrasesSmaller) {
+    for (const Drill& drill : lessons::drillCatalogue()) {
+        if (drill.boxes == 0)
+            continue;
+        DrillDesk desk(QString::fromUtf8(drill.name));
+        ASSERT_NE(desk.open(), nullptr) << drill.name;
+        const QFont font = desk.box(0).font();
+        EXPECT_EQ(font.family(), QStringLiteral("Tahoma")) << drill.name;
+        EXPECT_TRUE(font.bold()) << drill.name;
+        // 9.75 and 8.25 points.
+        EXPECT_EQ(font.pixelSize(), drill.name == std::string("frmLesson17") ? 11 : 13) << drill.name;
+    }
+}
+
 TEST_P(Catalogue, StandsOnItsScreenAsTold) {
     const Known& told = GetParam();
     DrillDesk desk(QString::fromUtf8(told.name));
