@@ -21,8 +21,7 @@ bool leavesText(const platform::TextBox& here, int code) {
         case key::down:
         case key::pageDown: return true;
         case key::home: return atEdge(here, 0);
-        case key::right:
-        case key::end: return atEdge(here, here.text().size());
+        case key::right: return atEdge(here, here.text().size());
         default: return false;
     }
 }
@@ -40,8 +39,8 @@ std::optional<int> boxByKey(const platform::TextBox& here, int box, int count, i
         case key::right:
         case key::down:
         case key::pageDown: return !isLast && leavesText(here, code) ? std::optional(box + 1) : std::nullopt;
+        // The way back out of the last box. End has no such way on: it would lead there.
         case key::home: return count > 0 && leavesText(here, code) ? std::optional(0) : std::nullopt;
-        case key::end: return count > 0 && leavesText(here, code) ? std::optional(last) : std::nullopt;
         default: return std::nullopt;
     }
 }
