@@ -95,6 +95,10 @@ void WordQuiz::buildQuiz() {
     timer1_->onTick = [this] { nextWordTick(); };
 }
 
+std::vector<QWidget*> WordQuiz::afterAnswers() const {
+    return {picRight_, &picBegin()};
+}
+
 void WordQuiz::restoreHover() {
     loadPicture(*picRight_, QStringLiteral("button\\right1.jpg"));
 }
@@ -196,6 +200,7 @@ void WordQuiz::PrepareQuizList() {
 }
 
 void WordQuiz::showWord() {
+    wordCounted_ = false;
     const QString spelled = testword2Rs_.text(word);
     setFittedCaption(*this, *lblWord_, testword2Rs_.text(definition), TextRole::Meaning);
     lblLetter_->setCaption(spelled.left(1));
@@ -249,9 +254,11 @@ void WordQuiz::wordWrong(const QString& spelled) {
     letters_->focus(0);
 }
 
+// The boxes stay live until the next word comes, and Enter judges the same word once more.
 void WordQuiz::countWord() {
-    if (firstTryOpen_)
+    if (firstTryOpen_ && !wordCounted_)
         ++firstTryCount_;
+    wordCounted_ = true;
 }
 
 void WordQuiz::finish() {

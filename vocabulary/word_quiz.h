@@ -17,6 +17,7 @@ class WordQuiz final : public course::ExerciseScreen {
     explicit WordQuiz(core::Context& context);
 
    protected:
+    std::vector<QWidget*> afterAnswers() const override;
     void firstTick() override;
     void closeRecordsets() override;
     void restoreHover() override;
@@ -52,6 +53,7 @@ class WordQuiz final : public course::ExerciseScreen {
     Int16 quizNo_;
     Int16 firstTryCount_;
     bool firstTryOpen_ = true;
+    bool wordCounted_ = false;
     Int16 missCount_;
     bool answerOpen_ = false;
     Int16 nextWordTicks_;

@@ -338,3 +338,30 @@ TEST(VocabularyQuiz, TheAnswerButtonLightsUpLikeTheOthers) {
     EXPECT_EQ(picture(), QStringLiteral("right1.jpg"));
     EXPECT_EQ(desk.sound.names().count(QStringLiteral("touchit.wav")), 1);
 }
+
+TEST(VocabularyQuiz, AWordThatIsJudgedAgainBeforeTheNextOneComesCountsOnce) {
+    WordDesk desk(two);
+    core::Screen* form = beginQuiz(desk);
+    spell(form, wordOnShow(desk, form).toLatin1().constData());
+    // The timer of the next word has not ticked yet: the boxes stand as they were and are live.
+    for (int i = 0; i < 2; ++i)
+        QTest::keyClick(form->focusWidget(), Qt::Key_Return);
+    ASSERT_TRUE(waitFor([&] { return label(form, "lblNow").caption() == QStringLiteral("2"); }));
+    typeRight(desk, form);
+    EXPECT_EQ(desk.boxes.lastText(),
+              QStringLiteral("Vocabulary Quiz 2가 완료되었습니다.\n\n퀴즈 점수는 100 입니다."));
+    // The column keeps the mean of this part and the one before, which was not done.
+    EXPECT_EQ(desk.results().section(u'|', 2, 2), QStringLiteral("50"));
+}
+
+TEST(VocabularyQuiz, AWordMissedFirstIsNotCountedByJudgingItAgain) {
+    WordDesk desk(two);
+    core::Screen* form = beginQuiz(desk);
+    missOnce(form);
+    spell(form, wordOnShow(desk, form).toLatin1().constData());
+    QTest::keyClick(form->focusWidget(), Qt::Key_Return);
+    ASSERT_TRUE(waitFor([&] { return label(form, "lblNow").caption() == QStringLiteral("2"); }));
+    typeRight(desk, form);
+    EXPECT_TRUE(desk.boxes.lastText().endsWith(QStringLiteral("점수는 50 입니다.")));
+    EXPECT_EQ(desk.results().section(u'|', 2, 2), QStringLiteral("25"));
+}
