@@ -8,6 +8,8 @@ namespace {
 
 // Off by default, as the log of sounds is; switched on it tells the files that players were given.
 Q_LOGGING_CATEGORY(mediaLog, "tovalin.media", QtCriticalMsg)
+// The log of sounds tells it too, with the player's name where others have their mode.
+Q_LOGGING_CATEGORY(soundLog, "tovalin.sound", QtCriticalMsg)
 
 }  // namespace
 
@@ -19,6 +21,7 @@ WordPlayer::WordPlayer(const core::Context& context, const QString& name, QObjec
 void WordPlayer::setUrl(const QString& url) {
     url_ = url;
     qCInfo(mediaLog).noquote() << objectName() << url;
+    qCInfo(soundLog).noquote() << url.section(u'\\', -1) << objectName();
     context_.sound.playBeside(context_.drives.resolve(url));
 }
 

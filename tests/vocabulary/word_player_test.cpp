@@ -2,6 +2,8 @@
 
 #include "tests/support/recorder.h"
 
+#include <QLoggingCategory>
+
 #include <gtest/gtest.h>
 
 namespace {
@@ -28,4 +30,20 @@ TEST(WordPlayer, SpeaksBesideAnEffectThatStillPlays) {
     EXPECT_EQ(player.url(), url);
     EXPECT_EQ(voices.beside, QStringList{desk.file(url)});
     EXPECT_EQ(voices.alone, QStringList{});
+}
+
+TEST(WordPlayer, TellsTheWordInTheLogOfSounds) {
+    static QStringList log;
+    log.clear();
+    const auto before =
+        qInstallMessageHandler([](QtMsgType, const QMessageLogContext& where, const QString& text) {
+            log.append(QString::fromUtf8(where.category) + u' ' + text);
+        });
+    QLoggingCategory::setFilterRules(QStringLiteral("tovalin.sound.info=true"));
+    support::Desk desk;
+    vocabulary::WordPlayer player(desk.context(), QStringLiteral("Web1"), nullptr);
+    player.setUrl(QStringLiteral("D:\\A_Mendori\\ABCSound\\leaf.wav"));
+    QLoggingCategory::setFilterRules({});
+    qInstallMessageHandler(before);
+    EXPECT_EQ(log, QStringList{QStringLiteral("tovalin.sound leaf.wav Web1")});
 }
