@@ -36,7 +36,7 @@ VideoMenu::VideoMenu(core::Context& context)
     buildHeader();
     buildTopics();
     txtStory_ = &addStory(QRect(342, 98, 626, 594));
-    PictureButton& exit = addHoverButton(QStringLiteral("picExit"), QRect(876, 18, 100, 40),
+    PictureButton& exit = addHoverButton(QStringLiteral("picExit"), QRect(752, 18, 100, 40),
                                          QStringLiteral("back"), QStringLiteral("Back to table"));
     exit.onClick = [this] { exitClicked(); };
     loadTopics();

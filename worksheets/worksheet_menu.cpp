@@ -60,7 +60,7 @@ void WorksheetMenu::buildHeader() {
             "아래의 번호를 클릭하면 해당 레슨의 WorkSheet가 출력됩니다. (빨간 색은 제공되지 않습니다.)"));
     addLabel(QStringLiteral("Label4"), QRect(24, 87, 902, 21), TextRole::Body,
              QStringLiteral("<Final>인 경우에는 랜덤으로 데이타가 선정되어 매번 출력문이 다릅니다."));
-    picExit_ = &addPictureButton(QStringLiteral("picExit"), QRect(832, 10, 100, 40), QStringLiteral("Back"));
+    picExit_ = &addPictureButton(QStringLiteral("picExit"), QRect(726, 10, 100, 40), QStringLiteral("Back"));
     loadPicture(*picExit_, exitAtRest);
     picExit_->onClick = [this] { exitClicked(); };
     picExit_->onMouseMove = [this] { exitHovered(); };
