@@ -78,6 +78,28 @@ class Learner {
     QStringList words_;
 };
 
+/// A drill stores full marks or nothing, tells nothing but its own messages, and lists no more than its
+/// boxes.
+void expectNothingButWhatADrillDoes(DrillDesk& desk) {
+    const lessons::Drill& drill = desk.drill();
+    for (const QString& score :
+         desk.rows(support::scoreStore, "Select recordno, printf('%g', s4) from score"))
+        EXPECT_EQ(score, QStringLiteral("%1|100").arg(desk.step()));
+    EXPECT_LE(desk.rows(support::scoreStore, "Select 1 from score").size(), drill.savesScore ? 1 : 0);
+    EXPECT_TRUE(desk.session.scoreValue == 0 || desk.session.scoreValue == 100);
+    for (const QString& text : desk.boxes.texts())
+        EXPECT_TRUE(text == QString::fromUtf8(drill.completion) || text == QString::fromUtf8(drill.missed))
+            << text.toStdString();
+    const std::string boxes = std::to_string(drill.boxes);
+    EXPECT_EQ(desk.row(support::courseStore, "Select count(*), count(distinct orderno) from basic_data"),
+              QString::fromStdString(boxes + "|" + boxes));
+    EXPECT_EQ(
+        desk.rows(support::courseStore, "Select * from blankno where blankno < 0 or blankno >= " + boxes),
+        QStringList());
+    EXPECT_EQ(desk.row(support::courseStore, "Select count(*) <= " + boxes + " from blankno"),
+              QStringLiteral("1"));
+}
+
 class RandomEvents : public ::testing::TestWithParam<std::string> {};
 
 std::vector<std::string> drillNames() {
@@ -89,7 +111,7 @@ std::vector<std::string> drillNames() {
 
 }  // namespace
 
-TEST_P(RandomEvents, EndInNoError) {
+TEST_P(RandomEvents, EndInNoErrorAndStoreNothingButFullMarks) {
     for (const unsigned seed : seeds) {
         DrillDesk desk(QString::fromStdString(GetParam()));
         ASSERT_NE(desk.open(), nullptr) << desk.failure().toStdString();
@@ -99,6 +121,7 @@ TEST_P(RandomEvents, EndInNoError) {
             ASSERT_EQ(desk.failure(), QString()) << "seed " << seed << ", event " << i;
         }
         EXPECT_EQ(desk.row(support::courseStore, "PRAGMA integrity_check"), QStringLiteral("ok"));
+        expectNothingButWhatADrillDoes(desk);
     }
 }
 

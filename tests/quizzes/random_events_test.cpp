@@ -135,8 +135,35 @@ void expectWholeStores(const QuizDesk& desk) {
     EXPECT_EQ(desk.row(support::scoreStore, "PRAGMA integrity_check"), QStringLiteral("ok"));
     EXPECT_EQ(desk.row(support::courseStore, "Select count(*), count(distinct orderno) from quiz_data_New3"),
               QStringLiteral("4|4"));
-    for (const QString& score : desk.scores())
-        EXPECT_TRUE(score.section(u'|', 1).toInt() >= 0 && score.section(u'|', 1).toInt() <= 100);
+}
+
+/// A table stores full marks or nothing, and one question at a time the share of its four.
+void expectLikelyScores(const QuizDesk& desk, const QString& form, bool final) {
+    const bool table = quizzes::findQuiz(form)->shape == quizzes::Shape::Table;
+    EXPECT_LE(desk.scores().size(), 1);
+    for (const QString& stored : desk.scores()) {
+        bool whole = false;
+        const int score = stored.section(u'|', 1).toInt(&whole);
+        EXPECT_TRUE(whole && score >= 0 && score <= 100) << stored.toStdString();
+        EXPECT_TRUE(final || score % (table ? 100 : 25) == 0) << stored.toStdString();
+        EXPECT_EQ(stored.section(u'|', 0, 0), final ? QStringLiteral("20") : QStringLiteral("250"));
+    }
+    for (const core::Int16 score : desk.session.finalStepScores)
+        EXPECT_TRUE(score >= 0 && score <= 100) << static_cast<int>(score);
+    EXPECT_TRUE(desk.session.scoreValue >= 0 && desk.session.scoreValue <= 100);
+    EXPECT_TRUE(desk.session.finalStepNo >= 0 && desk.session.finalStepNo <= 21);
+}
+
+/// The question on show is one of those that there are.
+void expectLikelyCounters(const QuizDesk& desk, const core::Screen* screen, bool final) {
+    if (final || !support::find(screen, QStringLiteral("lblCurrent")).isVisible())
+        return;
+    const auto number = [screen](const char* name) {
+        return support::find<platform::Label>(screen, QLatin1String(name)).caption().toInt();
+    };
+    EXPECT_EQ(number("lblTotal"), 4);
+    EXPECT_TRUE(number("lblCurrent") >= 1 && number("lblCurrent") <= 4) << number("lblCurrent");
+    EXPECT_TRUE(desk.session.recordNo == 250);
 }
 
 /// The quiz on show, after whatever was on its way has come up; another screen that came is closed.
@@ -173,11 +200,14 @@ void runMonkey(const QString& form, quint32 seed, bool final) {
             monkey.act(screen);
             if (left % 8 == 0)
                 support::settle();
+            if (desk.top() != nullptr && desk.top()->objectName() == form && desk.failure().isEmpty())
+                expectLikelyCounters(desk, desk.top(), final);
         }
         support::settle();
         EXPECT_TRUE(desk.failure().isEmpty() || isKnown(form, desk.failure()))
             << form.toStdString() << " seed " << seed << ": " << desk.failure().toStdString();
         expectWholeStores(desk);
+        expectLikelyScores(desk, form, final);
     }
 }
 

@@ -27,6 +27,7 @@ void sendRandomEvent(QWidget& form, std::mt19937& draw) {
 /// Keeps a screen and whatever it opens busy; ends what ends.
 void fuzz(VideoDesk& desk, const QString& screen, unsigned seed) {
     std::mt19937 draw(seed);
+    const core::Int16 recordNo = desk.session.recordNo;
     for (int i = 0; i < 300 && desk.failure().isEmpty() && !desk.screens().ended(); ++i) {
         if (desk.top() == nullptr)
             desk.open(screen);
@@ -38,6 +39,10 @@ void fuzz(VideoDesk& desk, const QString& screen, unsigned seed) {
         settle();
     }
     EXPECT_EQ(desk.failure(), QString()) << "seed " << seed;
+    // Looking at videos earns nothing, moves no step and leaves no heap of screens.
+    EXPECT_EQ(desk.rows(scoreStore, "select * from score"), QStringList()) << "seed " << seed;
+    EXPECT_EQ(desk.session.recordNo, recordNo) << "seed " << seed;
+    EXPECT_LE(desk.screens().standing().size(), 2U) << "seed " << seed;
 }
 
 TEST(VideoScreens, RandomEventsOnTheMenuDoNoHarm) {

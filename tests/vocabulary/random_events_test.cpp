@@ -84,6 +84,42 @@ class Monkey {
     QRandomGenerator chance_;
 };
 
+int numberOn(const QWidget* form, const char* name) {
+    const auto* counter = form->findChild<platform::Label*>(QLatin1String(name));
+    return counter == nullptr ? 0 : counter->caption().toInt();
+}
+
+/// The counters of any of the three screens lie within its list.
+void expectLikelyCounters(const QWidget* form) {
+    const int total = numberOn(form, "lblTotal");
+    EXPECT_TRUE(total >= 0 && total <= static_cast<int>(oddWords.size())) << total;
+    EXPECT_TRUE(numberOn(form, "lblNow") >= 0 && numberOn(form, "lblNow") <= total);
+    // Past the last pair the number stays.
+    EXPECT_TRUE(numberOn(form, "lblCurrent") >= 0 && numberOn(form, "lblCurrent") <= total);
+    EXPECT_GE(numberOn(form, "lblMiss"), 0);
+}
+
+/// The stored results of the three parts are shares of a list.
+void expectLikelyResults(const WordDesk& desk) {
+    EXPECT_LE(desk.rows(support::scoreStore, "select 1 from score").size(), 1);
+    for (const QString& stored :
+         desk.rows(support::scoreStore, "select s1, s2, s3, printf('%g', s4) from score")) {
+        for (const QString& part : stored.split(u'|')) {
+            bool number = false;
+            const double score = part.toDouble(&number);
+            EXPECT_TRUE(!number || (score >= 0 && score <= 100)) << stored.toStdString();
+        }
+    }
+    EXPECT_TRUE(desk.session.scoreValue >= 0 && desk.session.scoreValue <= 100)
+        << static_cast<int>(desk.session.scoreValue);
+    const std::string words = std::to_string(oddWords.size());
+    for (const char* table : {"testword", "testword2", "testword6"})
+        EXPECT_EQ(
+            desk.row(support::testWordStore, "select count(*) <= " + words + " from " + std::string(table)),
+            QStringLiteral("1"))
+            << table;
+}
+
 void runMonkey(const char* screen, const WordDesk::Words& words, quint32 seed, int events) {
     WordDesk desk(words);
     Monkey monkey(seed);
@@ -94,7 +130,11 @@ void runMonkey(const char* screen, const WordDesk::Words& words, quint32 seed, i
         monkey.act(desk.top());
         if (i % 16 == 0)
             support::settle();
+        if (desk.top() != nullptr && desk.top()->objectName() == QLatin1String(screen))
+            expectLikelyCounters(desk.top());
+        EXPECT_TRUE(desk.session.scoreValue >= 0 && desk.session.scoreValue <= 100);
     }
+    expectLikelyResults(desk);
     EXPECT_EQ(desk.failure(), QString()) << screen << " seed " << seed;
 }
 

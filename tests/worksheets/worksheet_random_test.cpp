@@ -4,6 +4,7 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <random>
 
 using platform::Label;
@@ -89,6 +90,16 @@ TEST_P(WorksheetRandom, EventsEndInNothingButTheMessagesOfTheLessons) {
     for (int i = 0; i < events && desk.failure().isEmpty(); ++i)
         monkey.act();
     EXPECT_TRUE(desk.failure().isEmpty()) << desk.failure().toStdString();
+    // A sheet has one head, is of a step that there is, and earns nothing.
+    for (const char* table : {"student", "guide"})
+        EXPECT_LE(desk.rows(support::sheetStore, "select * from " + std::string(table)).size(), 1) << table;
+    EXPECT_LE(desk.row(support::sheetStore, "select count(*) from tempword").toInt(), 60);
+    EXPECT_EQ(desk.rows(support::scoreStore, "select * from score"), QStringList());
+    const bool isStep = std::find(steps.begin(), steps.end(), desk.session.recordNo) != steps.end();
+    EXPECT_TRUE(desk.session.recordNo == 0 || isStep) << static_cast<int>(desk.session.recordNo);
+    EXPECT_TRUE(desk.session.topicNo >= 1 && desk.session.topicNo <= 3);
+    EXPECT_TRUE(desk.session.scoreValue == 0);
+    EXPECT_EQ(desk.screens().standing().size(), 1U);
     for (const QString& text : desk.boxes.texts())
         EXPECT_TRUE(text.startsWith(QStringLiteral("해당 레슨은 워크시트가")) ||
                     text.startsWith(QStringLiteral("데이타 오류입니다.")))
