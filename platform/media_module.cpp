@@ -37,8 +37,7 @@ class Player final : public platform::MediaPlayer {
         if (!QMediaDevices::audioOutputs().isEmpty())
             player_.setAudioOutput(&audio_);
         player_.setVideoSink(&sink_);
-        QObject::connect(&sink_, &QVideoSink::videoFrameChanged, &player_,
-                         [this](const QVideoFrame& f) { frame(f); });
+        QObject::connect(&sink_, &QVideoSink::videoFrameChanged, &player_, [this] { frameCame(); });
         QObject::connect(&player_, &QMediaPlayer::errorOccurred, &player_,
                          [this](QMediaPlayer::Error, const QString& reason) { fail(reason); });
         QObject::connect(&player_, &QMediaPlayer::mediaStatusChanged, &player_, [this] { statusChanged(); });
@@ -88,7 +87,21 @@ class Player final : public platform::MediaPlayer {
     qint64 duration() const override { return player_.duration(); }
 
    private:
-    void frame(const QVideoFrame& frame) {
+    void frameCame() {
+        // The back end waits inside this call, 300 ms and no longer, before it gives the film up as broken;
+        // the first picture may take more, where a slow machine sets up its graphics for it. So the call only
+        // notes that there is a picture, and a machine that cannot keep up shows the latest.
+        if (std::exchange(frameWaits_, true))
+            return;
+        QMetaObject::invokeMethod(
+            &player_,
+            [this] {
+                frameWaits_ = false;
+                show(sink_.videoFrame());
+            },
+            Qt::QueuedConnection);
+    }
+    void show(const QVideoFrame& frame) {
         if (quiet_ || !frame.isValid())
             return;
         const QImage image = frame.toImage();
@@ -136,7 +149,8 @@ class Player final : public platform::MediaPlayer {
     QMediaPlayer player_;
     bool started_ = false;
     bool quiet_ = false;
-    bool holds_ = false;  // to be paused as soon as it runs
+    bool frameWaits_ = false;  // one has come that is not on view yet
+    bool holds_ = false;       // to be paused as soon as it runs
 };
 
 void endRetired() {

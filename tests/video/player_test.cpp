@@ -54,6 +54,35 @@ TEST_F(Player, PlaysAtOnceAndItsPictureCanBeGrabbed) {
     EXPECT_EQ(player->size(), QSize(800, 600));
 }
 
+TEST_F(Player, AFilmOfTheSizeOfALessonPlaysToItsEnd) {
+    desk.makeVideo(1, 3.0, QStringLiteral("testsrc=s=640x480:r=25"));
+    play(1);
+    ASSERT_TRUE(VideoDesk::showsPicture(player)) << view().failure().toStdString();
+    EXPECT_TRUE(reaches(MediaState::Ended)) << view().failure().toStdString();
+    EXPECT_EQ(view().failure(), QString());
+}
+
+TEST_F(Player, GoesOnAfterTheProgramWasBusyForAWhile) {
+    playRealVideo(20.0);
+    ASSERT_TRUE(reaches(MediaState::Playing));
+    for (const int busy : {400, 1500}) {
+        QTest::qSleep(busy);
+        EXPECT_TRUE(runsOn()) << view().failure().toStdString();
+    }
+    EXPECT_EQ(view().failure(), QString());
+}
+
+TEST_F(Player, StartsThoughTheProgramIsBusyMeanwhile) {
+    desk.makeVideo(1, 20.0);
+    play(1);
+    for (int i = 0; i < 10; ++i) {
+        settle();
+        QTest::qSleep(500);
+    }
+    EXPECT_TRUE(runsOn()) << view().failure().toStdString();
+    EXPECT_EQ(view().failure(), QString());
+}
+
 TEST_F(Player, SpacePausesAndPlaysOn) {
     playRealVideo(20.0);
     ASSERT_TRUE(reaches(MediaState::Playing));
@@ -140,7 +169,7 @@ TEST_F(Player, TheEndedVideoKeepsItsWindowAndSpacePlaysItAgain) {
 TEST_F(Player, TheBarAndTheArrowKeysSeek) {
     playRealVideo(30.0);
     ASSERT_TRUE(reaches(MediaState::Playing));
-    ASSERT_TRUE(waitFor([&] { return view().duration() > 29000; }));
+    ASSERT_TRUE(waitFor([&] { return view().duration() > 29000; })) << view().duration();
     press(Qt::Key_Space);
     ASSERT_TRUE(reaches(MediaState::Paused));
     slider("sldSeek").setValue(20000);
@@ -154,7 +183,7 @@ TEST_F(Player, TheBarAndTheArrowKeysSeek) {
 
 TEST_F(Player, AClickOnTheBarJumpsToItsPlace) {
     playRealVideo(30.0);
-    ASSERT_TRUE(waitFor([&] { return view().duration() > 29000; }));
+    ASSERT_TRUE(waitFor([&] { return view().duration() > 29000; })) << view().duration();
     QSlider& bar = slider("sldSeek");
     QTest::mouseClick(&bar, Qt::LeftButton, {}, QPoint(bar.width() * 2 / 3, bar.height() / 2));
     EXPECT_TRUE(waitFor([&] { return view().position() >= 17000; }));

@@ -27,12 +27,13 @@ class VideoDesk : public Desk {
     }
 
     /// Puts a video of one colour with a soft tone where the player looks for this number.
-    void makeVideo(int number, double seconds = 3.0) const {
+    void makeVideo(int number, double seconds = 3.0,
+                   const QString& picture = QStringLiteral("color=c=red:s=160x120:r=10")) const {
         const QString file = this->file(videoFolder + QStringLiteral("Lesson_%1.wmv").arg(number));
         const QString length = QString::number(seconds);
         QProcess::execute(QStringLiteral("ffmpeg"),
                           {"-nostdin", "-v",    "error", "-y",
-                           "-f",       "lavfi", "-i",    "color=c=red:s=160x120:r=10:d=" + length,
+                           "-f",       "lavfi", "-i",    picture + QStringLiteral(":d=") + length,
                            "-f",       "lavfi", "-i",    "sine=220:d=" + length,
                            "-c:v",     "wmv2",  "-g",    "5",
                            "-c:a",     "wmav2", "-f",    "asf",
