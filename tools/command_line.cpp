@@ -1,10 +1,11 @@
 #include "tools/command_line.h"
 
+#include "platform/file_limit.h"
+
 #include <QCoreApplication>
 #include <QDir>
 
 #include <algorithm>
-#include <csignal>
 #include <cstdio>
 
 namespace tools {
@@ -15,8 +16,7 @@ CommandLine::CommandLine(const QString& name, const QString& description)
     parser_.setApplicationDescription(description);
     // The parser's own option would bring another one along for options that no tool here has.
     parser_.addOption(help_);
-    // Where files may not grow, the write that meets the limit tells so; the tool is not ended by it.
-    std::signal(SIGXFSZ, SIG_IGN);
+    platform::ignoreFileLimitSignal();
 }
 
 std::optional<int> CommandLine::parse(const QStringList& arguments) {
