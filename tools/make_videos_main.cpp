@@ -80,6 +80,8 @@ int main(int argc, char** argv) {
         std::printf("%d videos made, %d kept, in %s\n", report.made, report.kept, qPrintable(plan.folder));
         if (report.silent && report.made > 0)
             std::printf("They are silent: neither flite nor espeak-ng is installed.\n");
+        else if (report.silentKorean && report.made > 0)
+            std::printf("Their explanations are not spoken: espeak-ng is not installed.\n");
         for (const QString& failure : report.failures)
             std::fprintf(stderr, "%s\n", qPrintable(failure));
         return report.failures.isEmpty() ? 0 : 1;

@@ -1,26 +1,31 @@
 #pragma once
 
+#include "tools/slides.h"
 #include "tools/wave.h"
 
 #include <QString>
 
 namespace tools {
 
-/// A voice that speaks English: the first speech program that the machine has.
+/// The voices of the videos: the speech programs that the machine has for English and for Korean.
 class Narrator {
    public:
-    /// Looks for a speech program.
+    /// Looks for the speech programs.
     Narrator();
 
-    /// The program's name, "none" where there is none and all stays silent.
-    const QString& name() const { return name_; }
+    /// The programs' names, "none" where there is none and all stays silent.
+    QString name() const;
+    /// Whether a voice is there.
+    bool speaks(Voice voice) const { return !programOf(voice).isEmpty(); }
     /// The sentence spoken, a little slower than in talk; no samples where it cannot be spoken. `scratch`
     /// names a file that may be written over.
-    Wave speak(const QString& sentence, const QString& scratch) const;
+    Wave speak(const QString& sentence, Voice voice, const QString& scratch) const;
 
    private:
-    QString name_;
-    QString program_;
+    const QString& programOf(Voice voice) const { return voice == Voice::English ? english_ : korean_; }
+
+    QString english_;
+    QString korean_;
 };
 
 }  // namespace tools

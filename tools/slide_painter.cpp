@@ -17,6 +17,7 @@ constexpr QRgb shade = 0xffebe5d8;
 constexpr QRgb example = 0xffeef5f4;
 constexpr QRgb exampleLit = 0xffc9e4e1;
 constexpr QRgb noteInk = 0xff5a6465;
+constexpr QRgb wrongInk = 0xffc62f2f;
 
 constexpr int headerHeight = 54;
 constexpr QRect card(20, 70, 600, 394);
@@ -98,18 +99,25 @@ std::vector<SlidePainter::Row> SlidePainter::wrap(const SlideLine& line) const {
     std::vector<Row> rows(1);
     double used = 0.0;
     bool latin = line.kind == LineKind::Example;
-    for (const QString& text : line.text.split(u' ', Qt::SkipEmptyParts)) {
+    const Mistake mistake = mistakeIn(line.text);
+    qsizetype place = 0;
+    for (const QString& text : line.text.split(u' ')) {
         Word word;
         for (const QChar c : text) {
+            const bool wrong = place >= mistake.start && place < mistake.start + mistake.length;
+            ++place;
             // Stops and brackets go with the script before them, an opening bracket with Korean notes.
             if (isHangul(c) || (c == u'(' && line.kind == LineKind::Example))
                 latin = false;
             else if (isLatin(c))
                 latin = true;
-            if (word.empty() || word.back().latin != latin)
-                word.push_back({QString(), latin});
+            if (word.empty() || word.back().latin != latin || word.back().wrong != wrong)
+                word.push_back({QString(), latin, wrong});
             word.back().text += c;
         }
+        ++place;
+        if (word.empty())
+            continue;
         const double wanted = width(word, line.kind);
         if (!rows.back().empty() && used + blank + wanted > room) {
             rows.emplace_back();
@@ -172,27 +180,50 @@ void SlidePainter::paintLine(QPainter& painter, const SlideLine& line, int top, 
         }
         left += examplePadding;
         top += lineGap / 2;
+    } else if (lit) {
+        painter.setPen(Qt::NoPen);
+        painter.setBrush(ink(platform::colour::accent));
+        painter.drawRoundedRect(
+            QRectF(contentLeft - 12, top + 3, 5, static_cast<int>(rows.size()) * rowHeight - 6), 2.5, 2.5);
     }
-    const double blank =
-        QFontMetricsF(fontOf(line.kind, line.kind == LineKind::Example)).horizontalAdvance(u' ');
     for (const Row& row : rows) {
-        double x = left;
-        for (const Word& word : row) {
-            for (const Run& run : word) {
-                const QFont& font = fontOf(line.kind, run.latin);
-                const bool isNote = line.kind == LineKind::Example && !run.latin;
-                const bool stands =
-                    line.kind == LineKind::Heading || (line.kind == LineKind::Korean && run.latin);
-                painter.setFont(font);
-                painter.setPen(ink(stands   ? platform::colour::accent
-                                   : isNote ? noteInk
-                                            : platform::colour::black));
-                painter.drawText(QPointF(x, top + 22), run.text);
-                x += QFontMetricsF(font).horizontalAdvance(run.text);
-            }
-            x += blank;
-        }
+        paintRow(painter, row, line.kind, left, top);
         top += rowHeight;
+    }
+}
+
+QRgb SlidePainter::inkOf(const Run& run, LineKind kind) const {
+    if (run.wrong)
+        return wrongInk;
+    if (kind == LineKind::Heading || (kind == LineKind::Korean && run.latin))
+        return platform::colour::accent;
+    return kind == LineKind::Example && !run.latin ? noteInk : platform::colour::black;
+}
+
+/// Draws the words of a row; what is wrong is crossed out in one stroke.
+void SlidePainter::paintRow(QPainter& painter, const Row& row, LineKind kind, double left, int top) const {
+    const double blank = QFontMetricsF(fontOf(kind, kind == LineKind::Example)).horizontalAdvance(u' ');
+    double x = left;
+    double crossedFrom = -1.0;
+    double crossedTo = -1.0;
+    for (const Word& word : row) {
+        for (const Run& run : word) {
+            const QFont& font = fontOf(kind, run.latin);
+            painter.setFont(font);
+            painter.setPen(ink(inkOf(run, kind)));
+            painter.drawText(QPointF(x, top + 22), run.text);
+            const double end = x + QFontMetricsF(font).horizontalAdvance(run.text);
+            if (run.wrong) {
+                crossedFrom = crossedFrom < 0.0 ? x : crossedFrom;
+                crossedTo = end;
+            }
+            x = end;
+        }
+        x += blank;
+    }
+    if (crossedTo > crossedFrom) {
+        painter.setPen(QPen(ink(wrongInk), 2.5, Qt::SolidLine, Qt::RoundCap));
+        painter.drawLine(QPointF(crossedFrom - 2, top + 17), QPointF(crossedTo + 2, top + 13));
     }
 }
 
@@ -213,24 +244,30 @@ QImage SlidePainter::paint(const VideoText& text, const Slide& slide, int number
     return image;
 }
 
-QImage SlidePainter::paintTitle(const VideoText& text) const {
+QImage SlidePainter::paintTitle(const VideoText& text, const TitleRule& rule) const {
     QImage image = blankSlide();
     QPainter painter(&image);
     painter.setRenderHints(QPainter::Antialiasing | QPainter::TextAntialiasing);
-    const QRect place(60, 110, 520, 250);
-    paintCard(painter, place);
-    painter.fillRect(place.left() + 30, place.top() + 92, 64, 4, ink(platform::colour::accent));
+    painter.setFont(slideFont(16, false));
+    painter.setPen(ink(noteInk));
+    painter.drawText(QRect(0, 24, slideSize.width(), 30), Qt::AlignCenter,
+                     QStringLiteral("Video Grammar Lesson"));
+    paintCard(painter, card);
+    const QRect place(contentLeft, 0, contentWidth, 0);
     painter.setFont(slideFont(22, true));
     painter.setPen(ink(platform::colour::accent));
-    painter.drawText(place.adjusted(30, 38, -30, 0), Qt::AlignLeft | Qt::AlignTop,
+    painter.drawText(place.adjusted(0, 98, 0, 130), Qt::AlignLeft | Qt::AlignVCenter,
                      QStringLiteral("Lesson %1").arg(text.number));
     painter.setFont(slideFont(38, true));
     painter.setPen(Qt::black);
-    painter.drawText(place.adjusted(30, 112, -30, -50), Qt::AlignLeft | Qt::AlignVCenter | Qt::TextWordWrap,
-                     text.title);
-    painter.setFont(slideFont(16, false));
-    painter.setPen(ink(noteInk));
-    painter.drawText(QRect(60, 384, 520, 30), Qt::AlignCenter, QStringLiteral("Video Grammar Lesson"));
+    painter.drawText(place.adjusted(0, 134, 0, 190), Qt::AlignLeft | Qt::AlignVCenter, text.title);
+    painter.fillRect(contentLeft, 204, 64, 4, ink(platform::colour::accent));
+    int top = 232;
+    for (const SlideLine* line : {&rule.rule, &rule.example})
+        if (!line->text.isEmpty()) {
+            paintLine(painter, *line, top, line == &rule.example);
+            top += lineHeight(*line) + blockGap;
+        }
     return image;
 }
 

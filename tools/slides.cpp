@@ -1,9 +1,12 @@
 #include "tools/slides.h"
 
+#include "tools/korean_sounds.h"
+
 #include <QRegularExpression>
 #include <QStringList>
 
 #include <algorithm>
+#include <array>
 #include <cmath>
 #include <limits>
 
@@ -12,12 +15,14 @@ namespace tools {
 namespace {
 
 constexpr qsizetype longestHeading = 30;
-constexpr double titleSeconds = 3.5;
-constexpr double slideSeconds = 1.0;  // to find one's way on a new slide
-constexpr double readingPace = 8.0;   // letters a second
-constexpr double speechPause = 1.1;   // after each example, to say it again
-constexpr double lastSeconds = 2.0;   // the last slide, once all is said
-constexpr double margin = 1.0;        // kept from both bounds, for what encoding rounds
+constexpr qsizetype longestLabel = 8;
+constexpr double turnSeconds = 0.4;    // to find one's way on a new slide
+constexpr double readingPace = 8.0;    // letters a second, where nobody reads aloud
+constexpr double englishPause = 1.0;   // after each example, to say it again
+constexpr double koreanPause = 0.35;   // between two sentences
+constexpr double lastSeconds = 1.0;    // the last slide, once all is said
+constexpr double shortestPause = 0.5;  // of what it is at ease, where time is short
+constexpr double margin = 1.0;         // kept from the bound, for what encoding rounds
 
 const QRegularExpression& hangul() {
     static const QRegularExpression pattern(
@@ -76,8 +81,22 @@ bool cutLine(const SlideLine& line, SlideLine& first, SlideLine& second) {
     second.text = line.text.mid(best).trimmed();
     second.startsBlock = false;
     for (SlideLine* part : {&first, &second})
-        part->spoken = spokenText(part->text);
+        part->spoken = part->voice == Voice::English ? spokenText(part->text) : koreanSpeech(part->text);
     return true;
+}
+
+/// What the Korean voice says of a line that is no example.
+QString explanation(const QString& line) {
+    static const QRegularExpression letter(QStringLiteral("[A-Za-z]"));
+    if (!line.contains(hangul()) && !line.contains(letter))
+        return {};
+    const Mistake mistake = mistakeIn(line);
+    QString rest = line;
+    rest.remove(mistake.start, mistake.length);
+    // Nobody is to hear a mistake as if it were an example.
+    if (mistake.length > 0 && !rest.contains(letter) && line.size() - mistake.length < longestLabel)
+        return asPronounced(QStringLiteral("이렇게 쓰면 틀립니다."));
+    return koreanSpeech(line);
 }
 
 class Layout {
@@ -197,6 +216,21 @@ QString spokenText(const QString& line) {
     return withoutMarks(text);
 }
 
+Mistake mistakeIn(const QString& line) {
+    // The last bracket of each pattern holds the mistake.
+    static const std::array patterns{
+        QRegularExpression(QStringLiteral("^(?:틀림|틀린 [^:]{1,6}):\\s*(.+)$")),
+        QRegularExpression(QStringLiteral("(?:^|\\s{2,}|/\\s*)([^()/]*\\S)\\s*\\([Xx]\\)")),
+        QRegularExpression(
+            QStringLiteral("([A-Za-z][A-Za-z' ,]*[.?!]?)(?:이?라고 하지 않|이?라고 쓰지 않|처럼 줄여 쓰지 "
+                           "않|[은는] 틀린)")),
+    };
+    for (const QRegularExpression& pattern : patterns)
+        if (const auto found = pattern.match(line); found.hasMatch())
+            return {found.capturedStart(1), found.capturedLength(1)};
+    return {};
+}
+
 std::vector<SlideLine> slideLines(const QString& tips) {
     std::vector<SlideLine> lines;
     bool startsBlock = true;
@@ -208,11 +242,14 @@ std::vector<SlideLine> slideLines(const QString& tips) {
             startsBlock = true;
             continue;
         }
-        SlideLine built{LineKind::Korean, line, spokenText(line), startsBlock};
-        if (!built.spoken.isEmpty())
+        SlideLine built{LineKind::Korean, line, spokenText(line), Voice::English, startsBlock};
+        if (!built.spoken.isEmpty()) {
             built.kind = LineKind::Example;
-        else if (isHeading(line))
-            built.kind = LineKind::Heading;
+        } else {
+            built.kind = isHeading(line) ? LineKind::Heading : LineKind::Korean;
+            built.voice = Voice::Korean;
+            built.spoken = explanation(line);
+        }
         lines.push_back(built);
         startsBlock = false;
     }
@@ -227,40 +264,60 @@ std::vector<Slide> layOutSlides(const std::vector<SlideLine>& lines, int room, i
     return layout.take();
 }
 
-std::vector<Shot> shotsOf(const std::vector<Slide>& slides) {
-    std::vector<Shot> shots{Shot{-1, -1, {}, titleSeconds}};
+TitleRule titleRule(const QString& tips) {
+    static const QRegularExpression number(QStringLiteral("^\\d+\\.\\s+"));
+    const std::vector<SlideLine> lines = slideLines(tips);
+    auto rule = std::find_if(lines.begin(), lines.end(),
+                             [](const SlideLine& line) { return number.match(line.text).hasMatch(); });
+    if (rule == lines.end())
+        rule = lines.begin();
+    const auto example =
+        std::find_if(rule, lines.end(), [](const SlideLine& line) { return line.kind == LineKind::Example; });
+    TitleRule shown;
+    if (rule != lines.end() && rule->kind != LineKind::Example) {
+        shown.rule = *rule;
+        shown.rule.kind = LineKind::Korean;
+        shown.rule.text.remove(number);
+        // One sentence says it; the slides say the rest.
+        if (const qsizetype end = shown.rule.text.indexOf(QStringLiteral(". ")); end > 0)
+            shown.rule.text.truncate(end + 1);
+    }
+    if (example != lines.end())
+        shown.example = *example;
+    return shown;
+}
+
+std::vector<Shot> shotsOf(const VideoText& text, const std::vector<Slide>& slides) {
+    const QString rule = titleRule(text.tips).rule.text;
+    const QString title = koreanSpeech(text.title) + QStringLiteral(". ") + koreanSpeech(rule);
+    std::vector<Shot> shots{{-1, -1, title, Voice::Korean, readingSeconds(text.title + rule)}};
     for (std::size_t s = 0; s < slides.size(); ++s) {
         const int slide = static_cast<int>(s);
-        shots.push_back({slide, -1, {}, slideSeconds});
+        shots.push_back({slide, -1, {}, Voice::Korean, turnSeconds});
         for (std::size_t l = 0; l < slides[s].size(); ++l) {
             const SlideLine& line = slides[s][l];
-            if (line.kind == LineKind::Example) {
-                shots.push_back({slide, static_cast<int>(l), line.spoken, 0.0});
-                continue;
-            }
-            if (shots.back().line >= 0)
-                shots.push_back({slide, -1, {}, 0.0});
-            shots.back().reading += readingSeconds(line.text);
+            shots.push_back({slide, static_cast<int>(l), line.spoken, line.voice, readingSeconds(line.text)});
         }
     }
-    shots.push_back({static_cast<int>(slides.size()) - 1, -1, {}, lastSeconds});
+    shots.push_back({static_cast<int>(slides.size()) - 1, -1, {}, Voice::Korean, lastSeconds});
     return shots;
 }
 
 void timeShots(std::vector<Shot>& shots) {
-    double reading = 0.0;
+    const auto pauseAfter = [](const Shot& shot) {
+        return shot.voice == Voice::English ? englishPause : koreanPause;
+    };
     double speaking = 0.0;
-    for (Shot& shot : shots) {
-        reading += shot.reading;
-        // A line that no voice could be had for stands as long as it takes to read.
-        if (shot.line >= 0)
-            speaking += std::max(shot.speech, readingSeconds(shot.spoken)) + speechPause;
+    double resting = 0.0;
+    for (const Shot& shot : shots) {
+        speaking += shot.speech;
+        resting += shot.speech > 0.0 ? pauseAfter(shot) : shot.reading;
     }
-    const double wanted = std::clamp(reading + speaking, shortestVideo + margin, longestVideo - margin);
-    const double factor = reading > 0.0 ? std::max(0.0, wanted - speaking) / reading : 1.0;
+    const double room = longestVideo - margin - speaking;
+    const double factor = resting > room ? std::max(0.0, room / resting) : 1.0;
     for (Shot& shot : shots)
-        shot.seconds = shot.line >= 0 ? std::max(shot.speech, readingSeconds(shot.spoken)) + speechPause
-                                      : shot.reading * factor;
+        shot.seconds = shot.speech > 0.0 ? shot.speech + pauseAfter(shot) * std::max(factor, shortestPause)
+                                         : shot.reading * factor;
 }
 
 }  // namespace tools

@@ -3,6 +3,7 @@
 #include "platform/whole_file.h"
 #include "tools/narrator.h"
 #include "tools/slide_painter.h"
+#include "tools/voice_sound.h"
 
 #include <QCryptographicHash>
 #include <QDir>
@@ -24,8 +25,7 @@ namespace tools {
 namespace {
 
 // Counts up whenever slides or timing change, so that older videos are made again.
-constexpr int makerVersion = 1;
-constexpr int silentRate = 16000;
+constexpr int makerVersion = 2;
 constexpr int encodePatience = 600000;  // milliseconds for one video
 
 enum class Found { Absent, Current, Outdated, Foreign };
@@ -74,7 +74,7 @@ Found look(const QString& video, const QString& stamp) {
 class Recipe {
    public:
     Recipe(const VideoText& text, const Narrator& narrator)
-        : text_(text), narrator_(narrator), slides_(painter_.layOut(text)), shots_(shotsOf(slides_)) {}
+        : text_(text), narrator_(narrator), slides_(painter_.layOut(text)), shots_(shotsOf(text, slides_)) {}
 
     /// Makes the video and gives its length in seconds. Throws std::runtime_error.
     double make(const QString& video) {
@@ -95,7 +95,8 @@ class Recipe {
         for (std::size_t i = 0; i < shots_.size(); ++i) {
             if (shots_[i].spoken.isEmpty())
                 continue;
-            voices_[i] = narrator_.speak(shots_[i].spoken, scratch_.filePath(QStringLiteral("voice.wav")));
+            voices_[i] = narrator_.speak(shots_[i].spoken, shots_[i].voice,
+                                         scratch_.filePath(QStringLiteral("voice.wav")));
             shots_[i].speech = static_cast<double>(voices_[i].samples.size()) / voices_[i].rate;
         }
     }
@@ -106,10 +107,8 @@ class Recipe {
         return sum;
     }
     Wave sound() const {
-        const auto spoken =
-            std::find_if(voices_.begin(), voices_.end(), [](const Wave& w) { return !w.samples.empty(); });
         Wave wave;
-        wave.rate = spoken == voices_.end() ? silentRate : spoken->rate;
+        wave.rate = voiceRate;
         double until = 0.0;
         for (std::size_t i = 0; i < shots_.size(); ++i) {
             until += shots_[i].seconds;
@@ -120,7 +119,7 @@ class Recipe {
     }
     QImage picture(const Shot& shot) const {
         if (shot.slide < 0)
-            return painter_.paintTitle(text_);
+            return painter_.paintTitle(text_, titleRule(text_.tips));
         return painter_.paint(text_, slides_[static_cast<std::size_t>(shot.slide)], shot.slide + 1,
                               static_cast<int>(slides_.size()), shot.line);
     }
@@ -184,7 +183,8 @@ class Recipe {
 class Studio {
    public:
     Studio(const std::vector<VideoText>& texts, const VideoPlan& plan) : texts_(texts), plan_(plan) {
-        report_.silent = narrator_.name() == QStringLiteral("none");
+        report_.silent = !narrator_.speaks(Voice::English);
+        report_.silentKorean = !narrator_.speaks(Voice::Korean);
     }
 
     VideoReport run() {

@@ -20,9 +20,10 @@ struct VideoPlan {
 
 struct VideoReport {
     int made = 0;
-    int kept = 0;          // up to date, or a video of the author's own
-    QStringList failures;  // a sentence for each that could not be made
-    bool silent = false;   // no speech program was there
+    int kept = 0;               // up to date, or a video of the author's own
+    QStringList failures;       // a sentence for each that could not be made
+    bool silent = false;        // no speech program was there
+    bool silentKorean = false;  // none that speaks Korean
 };
 
 /// Makes a video for each text, as .wmv. One is made again only when its text has changed since; one that

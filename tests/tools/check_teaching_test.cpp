@@ -28,7 +28,8 @@ const Cases climbCases(
          {steps("2,Quiz,frmQuiz2\n"),
           questions("q1,a1", lines(8, "2,Word% ____ really well now.,sings")),
           steps18("197,Quiz,frmQuiz8\n"),
-          {"unit18/tovalin1_quiz_data.csv", "recordno,q1,a1\n" + lines(8, "197,Word% ____ really well now.,sang")}},
+          {"unit18/tovalin1_quiz_data.csv",
+           "recordno,q1,a1\n" + lines(8, "197,Word% ____ really well now.,sang")}},
          {QStringLiteral("unit18/tovalin1_quiz_data.csv:2, field 'q1'")}},
         {"LongSentencesBelongToTheLastUnits",
          "sentence-length",
@@ -37,8 +38,9 @@ const Cases climbCases(
          {at(quizTable, 2, "q1")}},
         {"SingleWordsAndHintsAreNoSentences",
          "sentence-length",
-         {steps("2,Quiz,frmQuiz2\n"), questions("q1,a1", lines(8, "2,word% (하나),words") +
-                                                             lines(8, "2,Word% sings very well. (very well here in this big room),x"))},
+         {steps("2,Quiz,frmQuiz2\n"),
+          questions("q1,a1", lines(8, "2,word% (하나),words") +
+                                 lines(8, "2,Word% sings very well. (very well here in this big room),x"))},
          {}},
         {"ThePastWaitsForItsUnit",
          "tense-early",

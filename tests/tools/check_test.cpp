@@ -74,7 +74,8 @@ class InstalledCourse : public testing::Test {
         source.mkpath(QStringLiteral("unit01"));
         write(source.filePath(QStringLiteral("topic.csv")), "topicno,Title\n1,명사\n");
         write(source.filePath(QStringLiteral("unit01/tablework.csv")),
-              "recordno,Type,Title,Data,guide,guide2,usedata,useform\n2,Quiz,명사,복수형,고르십시오.,고르십시오.,"
+              "recordno,Type,Title,Data,guide,guide2,usedata,useform\n2,Quiz,명사,복수형,고르십시오.,"
+              "고르십시오.,"
               "YES,frmQuiz2\n");
         write(source.filePath(QStringLiteral("unit01/tovalin1_quiz_data.csv")),
               "recordno,q1,a1\n" + lines(8, "2,word%,words%"));

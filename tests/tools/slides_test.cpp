@@ -92,32 +92,85 @@ TEST(Slides, AWordThatNoSlideHoldsDoesNotHang) {
     EXPECT_TRUE(layOut(QString(), 30).empty());
 }
 
-double timed(const QString& tips, double speech) {
-    auto shots = shotsOf(layOut(tips, 300));
-    for (Shot& shot : shots)
-        shot.speech = shot.spoken.isEmpty() ? 0.0 : speech;
-    timeShots(shots);
-    return std::accumulate(shots.begin(), shots.end(), 0.0,
-                           [](double sum, const Shot& s) { return sum + s.seconds; });
-}
-
-TEST(Slides, AVideoTakesFortyToAHundredAndTwentySeconds) {
-    const QString block =
-        QStringLiteral("이것은 설명하는 문장입니다. 천천히 읽어 보세요.\nThis is an example.\n\n");
-    for (const int blocks : {0, 1, 5, 15, 25}) {
-        const double seconds = timed(block.repeated(blocks), 1.5);
-        EXPECT_GE(seconds, shortestVideo) << blocks;
-        EXPECT_LE(seconds, longestVideo) << blocks;
+TEST(Slides, WhatIsWrongIsFoundInItsLine) {
+    const std::vector<Spoken> cases{
+        {"틀림: I am knowing it.", "I am knowing it."},
+        {"맞음: I know it.", ""},
+        {"with her (O)   with she (X)", "with she"},
+        {"with she (X)", "with she"},
+        {"I drink milk. (a milk라고 하지 않습니다.)", "a milk"},
+        {"I need sugar. (sugars라고 하지 않습니다.)", "sugars"},
+        {"Do you like it? (Are you like it?는 틀린 문장입니다.)", "Are you like it?"},
+        {"Yes로 대답할 때에는 there's처럼 줄여 쓰지 않습니다.", "there's"},
+        {"news는 단수입니다.", ""},
+        {"He is a vet.", ""},
+    };
+    for (const Spoken& c : cases) {
+        const QString line = QString::fromUtf8(c.line);
+        const Mistake mistake = mistakeIn(line);
+        EXPECT_EQ(line.mid(mistake.start, mistake.length), QString::fromUtf8(c.spoken)) << c.line;
     }
 }
 
-TEST(Slides, ALitLineStandsAtLeastAsLongAsItIsSpoken) {
-    auto shots = shotsOf(layOut(QStringLiteral("This is an example.\n\n").repeated(40), 300));
+TEST(Slides, KoreanIsSpokenByAVoiceOfItsOwnAndMistakesAreNot) {
+    const auto lines =
+        slideLines(QStringLiteral("1. 관사\n관사는 앞에 씁니다.\nI have a cat.\n틀림: I have cat.\n100%"));
+    ASSERT_EQ(lines.size(), 5U);
+    EXPECT_EQ(lines[0].spoken, QStringLiteral("관사"));
+    EXPECT_EQ(lines[1].spoken, QStringLiteral("관사는 앞에 씀니다."));
+    EXPECT_EQ(lines[1].voice, Voice::Korean);
+    EXPECT_EQ(lines[2].voice, Voice::English);
+    EXPECT_FALSE(lines[3].spoken.contains(QStringLiteral("cat")));
+    EXPECT_TRUE(lines[4].spoken.isEmpty());
+}
+
+TEST(Slides, TheTitleShowsTheFirstRuleWithItsExample) {
+    const TitleRule numbered = titleRule(QStringLiteral(
+        "명사는 이름입니다.\nI am Mina.\n\n1. 끝에 s를 붙입니다. 쉽습니다.\ncat - cats\ndog - dogs"));
+    EXPECT_EQ(numbered.rule.text, QStringLiteral("끝에 s를 붙입니다."));
+    EXPECT_EQ(numbered.example.text, QStringLiteral("cat - cats"));
+    EXPECT_EQ(titleRule(QStringLiteral("명사는 이름입니다.\nI am Mina.")).rule.text,
+              QStringLiteral("명사는 이름입니다."));
+    EXPECT_TRUE(titleRule(QString()).rule.text.isEmpty());
+    EXPECT_TRUE(titleRule(QStringLiteral("I am Mina.")).rule.text.isEmpty());
+}
+
+const QString block =
+    QStringLiteral("이것은 설명하는 문장입니다. 천천히 읽어 보십시오.\nThis is an example.\n\n");
+
+/// The shots of a tip, each line taking so many seconds to say.
+std::vector<Shot> timed(const QString& tips, double speech) {
+    auto shots = shotsOf({1, QStringLiteral("명사"), tips}, layOut(tips, 300));
     for (Shot& shot : shots)
-        shot.speech = shot.spoken.isEmpty() ? 0.0 : 5.0;
+        shot.speech = shot.spoken.isEmpty() ? 0.0 : speech;
     timeShots(shots);
-    for (const Shot& shot : shots)
-        EXPECT_GE(shot.seconds, shot.speech);
+    return shots;
+}
+
+double sum(const std::vector<Shot>& shots) {
+    return std::accumulate(shots.begin(), shots.end(), 0.0,
+                           [](double seconds, const Shot& shot) { return seconds + shot.seconds; });
+}
+
+TEST(Slides, PausesGiveWayWhereAVideoWouldGrowLong) {
+    EXPECT_LT(sum(timed(block.repeated(3), 2.0)), 30.0);
+    const double eased = sum(timed(block.repeated(23), 2.0));
+    EXPECT_LE(eased, longestVideo);
+    EXPECT_GT(eased, 23 * 2 * 2.0);
+}
+
+TEST(Slides, ALineStandsAsLongAsItIsSpokenAndIsFollowedByAShortPause) {
+    for (const int blocks : {1, 5, 40})
+        for (const Shot& shot : timed(block.repeated(blocks), 4.0)) {
+            EXPECT_GE(shot.seconds, shot.speech);
+            EXPECT_LT(shot.seconds - shot.speech, 1.5);
+        }
+}
+
+TEST(Slides, WithoutAVoiceEachLineStandsAsLongAsItTakesToRead) {
+    const auto shots = timed(block, 0.0);
+    EXPECT_GT(sum(shots), 5.0);
+    EXPECT_LE(sum(timed(block.repeated(60), 0.0)), longestVideo);
 }
 
 }  // namespace
