@@ -75,6 +75,12 @@ QString protection(const QString& path) {
     return QStringLiteral("belongs to '%1'").arg(QFileInfo(path).owner());
 }
 
+QString rightsAdvice() {
+    return QStringLiteral(
+        "Get the right to read and write the file and its folder, or make an install of your own with "
+        "\"setup\".");
+}
+
 /// There is nothing under the name that could be read.
 [[noreturn]] void throwMissing(const QString& file, const QString& shownName) {
     const QFileInfo found(file);
@@ -84,8 +90,8 @@ QString protection(const QString& path) {
     QFile opened(file);
     if (found.exists() && !opened.open(QIODevice::ReadOnly))
         throw RuntimeError(Fault::DatabaseFailure,
-                           QStringLiteral("'%1' cannot be opened: %2 (%3). The file %4.")
-                               .arg(shownName, opened.errorString(), file, protection(file)));
+                           QStringLiteral("'%1' cannot be opened: %2, the file %3 (%4). %5")
+                               .arg(shownName, opened.errorString(), protection(file), file, rightsAdvice()));
     requireWay(file, shownName);
     throw RuntimeError(Fault::DatabaseNotFound,
                        QStringLiteral("Could not find file '%1' (%2).").arg(shownName, file));
@@ -141,9 +147,7 @@ void throwNotWritable(const QString& file, const QString& shownName, const QStri
         cause = QStringLiteral("its folder ") + protection(folder);
     throw RuntimeError(
         Fault::DatabaseFailure,
-        QStringLiteral("'%1' cannot be written: %2 (%3). Get the right to write to the file and its "
-                       "folder, or make an install of your own with \"setup\".")
-            .arg(shownName, cause, file));
+        QStringLiteral("'%1' cannot be written: %2 (%3). %4").arg(shownName, cause, file, rightsAdvice()));
 }
 
 void throwRefusedStatement(const QString& shownName, const QString& table, const QString& reason) {
