@@ -1,6 +1,6 @@
 #include "app/program.h"
-#include "platform/application.h"
-#include "platform/look.h"
+#include "platform/desktop/application.h"
+#include "platform/desktop/look.h"
 
 int main(int argc, char** argv) {
     platform::Application application(argc, argv);

@@ -4,7 +4,7 @@
 #include "core/startup.h"
 #include "core/turn.h"
 #include "course/table_ahead.h"
-#include "platform/waiting.h"
+#include "platform/desktop/waiting.h"
 
 #include <QTimer>
 

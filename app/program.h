@@ -2,8 +2,8 @@
 
 #include "app/screen_loop.h"
 #include "core/context.h"
-#include "platform/file_lock.h"
-#include "platform/form.h"
+#include "platform/desktop/form.h"
+#include "platform/storage/file_lock.h"
 
 namespace app {
 

@@ -1,6 +1,6 @@
 #include "app/screen_loop.h"
 
-#include "platform/waiting.h"
+#include "platform/desktop/waiting.h"
 
 #include <QCoreApplication>
 

@@ -1,6 +1,6 @@
-#include "platform/application.h"
-#include "platform/look.h"
-#include "tools/offscreen.h"
+#include "platform/desktop/application.h"
+#include "platform/desktop/look.h"
+#include "tools/support/offscreen.h"
 
 #include <QTemporaryDir>
 

@@ -1,8 +1,8 @@
 // What the course tool costs: checking and building the starter course, and checking courses of up to a
 // hundred times its size, which must grow with the rows and no faster.
 
-#include "tools/check.h"
-#include "tools/install.h"
+#include "tools/rules/check.h"
+#include "tools/setup/install.h"
 
 #include <benchmark/benchmark.h>
 #include <QTemporaryDir>

@@ -4,8 +4,8 @@
 
 #include "course/preparation.h"
 #include "lessons/drill_maker.h"
-#include "platform/controls.h"
-#include "platform/timer.h"
+#include "platform/desktop/controls.h"
+#include "platform/desktop/timer.h"
 #include "tests/support/desk.h"
 
 #include <benchmark/benchmark.h>

@@ -2,9 +2,9 @@
 
 #include "app/program.h"
 #include "bench/ready_probe.h"
-#include "platform/application.h"
-#include "platform/look.h"
-#include "platform/timer.h"
+#include "platform/desktop/application.h"
+#include "platform/desktop/look.h"
+#include "platform/desktop/timer.h"
 
 namespace {
 

@@ -1,9 +1,9 @@
 // What a learner waits for a video: from the opening of the player's window to the first picture painted,
 // beside what another player takes for the same file.
 
-#include "platform/media_view.h"
+#include "platform/media/media_view.h"
 #include "tests/video/video_desk.h"
-#include "tools/video_maker.h"
+#include "tools/media/video_maker.h"
 
 #include <QElapsedTimer>
 #include <QStandardPaths>

@@ -1,6 +1,6 @@
-#include "platform/report_data.h"
-#include "platform/report_paint.h"
-#include "platform/report_preview.h"
+#include "platform/reports/data.h"
+#include "platform/reports/paint.h"
+#include "platform/reports/preview.h"
 #include "tests/worksheets/sheet_desk.h"
 #include "worksheets/worksheet_menu.h"
 

@@ -2,11 +2,11 @@
 
 #include "core/navigator.h"
 #include "core/session.h"
-#include "platform/clock.h"
+#include "platform/desktop/clock.h"
+#include "platform/desktop/message_box.h"
+#include "platform/desktop/settings.h"
 #include "platform/drives.h"
-#include "platform/message_box.h"
-#include "platform/settings.h"
-#include "platform/sound.h"
+#include "platform/media/sound.h"
 
 #include <QWidget>
 

@@ -1,8 +1,8 @@
 #include "core/screen.h"
 
 #include "core/stores.h"
-#include "platform/cursor.h"
-#include "platform/picture.h"
+#include "platform/desktop/cursor.h"
+#include "platform/desktop/picture.h"
 
 namespace core {
 

@@ -1,8 +1,8 @@
 #pragma once
 
 #include "core/context.h"
-#include "platform/form.h"
-#include "platform/timer.h"
+#include "platform/desktop/form.h"
+#include "platform/desktop/timer.h"
 
 namespace core {
 

@@ -1,8 +1,8 @@
 #pragma once
 
-#include "platform/database.h"
 #include "platform/int16.h"
-#include "platform/recordset.h"
+#include "platform/storage/database.h"
+#include "platform/storage/recordset.h"
 
 #include <QDate>
 #include <QString>

@@ -1,7 +1,7 @@
 #include "core/startup.h"
 
 #include "core/stores.h"
-#include "platform/picture.h"
+#include "platform/desktop/picture.h"
 
 #include <QFileInfo>
 #include <QGuiApplication>

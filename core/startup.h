@@ -1,7 +1,7 @@
 #pragma once
 
 #include "core/context.h"
-#include "platform/form.h"
+#include "platform/desktop/form.h"
 
 namespace core {
 

@@ -1,6 +1,6 @@
 #include "core/turn.h"
 
-#include "platform/message_box.h"
+#include "platform/desktop/message_box.h"
 
 #include <QMessageBox>
 #include <QTimer>

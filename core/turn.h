@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/file_lock.h"
+#include "platform/storage/file_lock.h"
 
 namespace core {
 

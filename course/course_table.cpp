@@ -4,7 +4,7 @@
 #include "core/stores.h"
 #include "course/preparation.h"
 #include "course/walk.h"
-#include "platform/cursor.h"
+#include "platform/desktop/cursor.h"
 
 namespace course {
 

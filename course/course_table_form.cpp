@@ -1,6 +1,6 @@
 #include "course/course_table.h"
 
-#include "platform/cursor.h"
+#include "platform/desktop/cursor.h"
 
 // How the course table's form is put together; what it does is in course_table.cpp.
 

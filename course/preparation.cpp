@@ -4,7 +4,7 @@
 #include "core/stores.h"
 #include "course/score_store.h"
 #include "course/shuffle.h"
-#include "platform/cursor.h"
+#include "platform/desktop/cursor.h"
 
 #include <algorithm>
 #include <utility>

@@ -2,8 +2,8 @@
 
 #include "core/stores.h"
 #include "course/score_store.h"
-#include "platform/database.h"
 #include "platform/error.h"
+#include "platform/storage/database.h"
 
 #include <QLatin1String>
 

@@ -1,8 +1,8 @@
 #include "course/table_ahead.h"
 
 #include "core/stores.h"
-#include "platform/look.h"
-#include "platform/picture.h"
+#include "platform/desktop/look.h"
+#include "platform/desktop/picture.h"
 
 #include <QWidget>
 

@@ -4,7 +4,7 @@
 #include "course/dispatch.h"
 #include "course/preparation.h"
 #include "course/score.h"
-#include "platform/cursor.h"
+#include "platform/desktop/cursor.h"
 
 #include <algorithm>
 #include <array>

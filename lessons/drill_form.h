@@ -2,7 +2,7 @@
 
 #include "course/exercise_screen.h"
 #include "lessons/drill_catalogue.h"
-#include "platform/recordset.h"
+#include "platform/storage/recordset.h"
 
 namespace lessons {
 

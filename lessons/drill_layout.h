@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/look.h"
+#include "platform/desktop/look.h"
 
 #include <QPoint>
 #include <QRect>

@@ -1,6 +1,6 @@
 #include "quizzes/choice_quiz.h"
 
-#include "platform/input_gate.h"
+#include "platform/desktop/input_gate.h"
 
 #include <utility>
 

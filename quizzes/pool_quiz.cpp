@@ -1,6 +1,6 @@
 #include "quizzes/pool_quiz.h"
 
-#include "platform/input_gate.h"
+#include "platform/desktop/input_gate.h"
 #include "quizzes/fitted_text.h"
 
 namespace quizzes {

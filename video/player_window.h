@@ -1,7 +1,7 @@
 #pragma once
 
 #include "core/screen.h"
-#include "platform/media_view.h"
+#include "platform/media/media_view.h"
 
 #include <QLabel>
 #include <QSlider>

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/timer.h"
+#include "platform/desktop/timer.h"
 #include "video/video_screen.h"
 
 namespace video {

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "core/context.h"
-#include "platform/value.h"
+#include "platform/storage/value.h"
 
 namespace video {
 

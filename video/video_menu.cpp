@@ -1,7 +1,7 @@
 #include "video/video_menu.h"
 
 #include "core/stores.h"
-#include "platform/waiting.h"
+#include "platform/desktop/waiting.h"
 #include "video/tips.h"
 #include "video/video_files.h"
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/recordset.h"
+#include "platform/storage/recordset.h"
 #include "video/video_screen.h"
 
 namespace video {

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "platform/database.h"
-#include "platform/recordset.h"
+#include "platform/storage/database.h"
+#include "platform/storage/recordset.h"
 
 #include <functional>
 

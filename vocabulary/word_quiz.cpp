@@ -5,7 +5,7 @@
 #include "course/score.h"
 #include "course/shuffle.h"
 #include "course/walk.h"
-#include "platform/cursor.h"
+#include "platform/desktop/cursor.h"
 #include "vocabulary/fitted_caption.h"
 #include "vocabulary/word_list.h"
 

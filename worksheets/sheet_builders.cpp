@@ -1,7 +1,7 @@
 #include "worksheets/sheet_builders.h"
 
 #include "platform/int16.h"
-#include "platform/recordset.h"
+#include "platform/storage/recordset.h"
 
 #include <algorithm>
 #include <array>

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/database.h"
+#include "platform/storage/database.h"
 #include "worksheets/sheet_tables.h"
 
 #include <QString>

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "core/screen.h"
-#include "platform/report.h"
+#include "platform/reports/report.h"
 
 namespace worksheets {
 

@@ -3,7 +3,7 @@
 #include "app/screens.h"
 #include "core/startup.h"
 #include "course/dispatch.h"
-#include "platform/waiting.h"
+#include "platform/desktop/waiting.h"
 #include "tests/support/desk.h"
 
 #include <QElapsedTimer>

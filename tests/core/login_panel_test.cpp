@@ -1,7 +1,7 @@
 #include "core/login_panel.h"
 
 #include "core/study_time.h"
-#include "platform/timer.h"
+#include "platform/desktop/timer.h"
 #include "tests/support/recorder.h"
 
 #include <QPointer>

@@ -1,6 +1,6 @@
 #include "tests/support/table_screen.h"
 
-#include "platform/cursor.h"
+#include "platform/desktop/cursor.h"
 
 #include <QFile>
 

@@ -2,12 +2,12 @@
 
 #include "core/play_sound.h"
 #include "core/stores.h"
-#include "platform/timer.h"
-#include "platform/waiting.h"
+#include "platform/desktop/timer.h"
+#include "platform/desktop/waiting.h"
 #include "tests/support/assistive.h"
 #include "tests/support/course_rows.h"
 #include "tests/support/recorder.h"
-#include "tools/wave.h"
+#include "tools/media/wave.h"
 
 #include <QDir>
 #include <QFile>

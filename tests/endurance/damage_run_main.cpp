@@ -4,7 +4,7 @@
 // many starts there were and what went wrong; status 1 where anything did.
 
 #include "tests/endurance/damages.h"
-#include "tools/install.h"
+#include "tools/setup/install.h"
 
 #include <QCommandLineParser>
 #include <QCoreApplication>

@@ -3,12 +3,12 @@
 // the presses are done, or as the program ends by itself.
 
 #include "app/program.h"
-#include "platform/application.h"
-#include "platform/controls.h"
-#include "platform/look.h"
-#include "platform/timer.h"
+#include "platform/desktop/application.h"
+#include "platform/desktop/controls.h"
+#include "platform/desktop/look.h"
+#include "platform/desktop/timer.h"
 #include "tests/endurance/damages.h"
-#include "tools/offscreen.h"
+#include "tools/support/offscreen.h"
 
 #include <QAbstractButton>
 #include <QDialog>

@@ -2,9 +2,9 @@
 // sentences. Made for afl-fuzz: `fuzz_import FILE`. With FUZZ_DIRECT set the reader runs in this very
 // process, which shows where a damaged file brings it down.
 
-#include "tools/import_isolated.h"
-#include "tools/import_jet.h"
-#include "tools/import_store.h"
+#include "tools/access/jet.h"
+#include "tools/import/isolated.h"
+#include "tools/import/store.h"
 
 #include <cstdio>
 #include <cstdlib>

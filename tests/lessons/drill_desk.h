@@ -1,7 +1,7 @@
 #pragma once
 
 #include "lessons/drill_catalogue.h"
-#include "platform/controls.h"
+#include "platform/desktop/controls.h"
 #include "tests/support/desk.h"
 
 namespace lessons_test {

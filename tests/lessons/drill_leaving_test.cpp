@@ -1,7 +1,7 @@
 // The ways out of a drill: from each of its states, and what each leaves open.
 
 #include "lessons/drill_screen.h"
-#include "platform/timer.h"
+#include "platform/desktop/timer.h"
 #include "tests/lessons/drill_desk.h"
 #include "tests/support/recorder.h"
 

@@ -1,6 +1,6 @@
 #include "platform/int16.h"
 
-#include "platform/value.h"
+#include "platform/storage/value.h"
 #include "tests/support/store.h"
 
 using platform::Int16;

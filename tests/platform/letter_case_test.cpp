@@ -1,7 +1,7 @@
 #include "platform/letter_case.h"
 
-#include "platform/database.h"
-#include "platform/recordset.h"
+#include "platform/storage/database.h"
+#include "platform/storage/recordset.h"
 #include "tests/support/desk.h"
 
 #include <gtest/gtest.h>

@@ -1,12 +1,12 @@
 #include "tests/support/desk.h"
 
 #include "app/screens.h"
-#include "platform/application.h"
-#include "platform/timer.h"
+#include "platform/desktop/application.h"
+#include "platform/desktop/timer.h"
 #include "tests/support/ended_run.h"
-#include "tools/install.h"
-#include "tools/store_writer.h"
-#include "tools/wave.h"
+#include "tools/media/wave.h"
+#include "tools/setup/install.h"
+#include "tools/setup/store_writer.h"
 
 #include <SQLiteCpp/SQLiteCpp.h>
 #include <QDeadlineTimer>

@@ -1,8 +1,8 @@
 #pragma once
 
-#include "platform/database.h"
 #include "platform/error.h"
-#include "platform/recordset.h"
+#include "platform/storage/database.h"
+#include "platform/storage/recordset.h"
 #include "tests/support/desk.h"
 
 #include <SQLiteCpp/SQLiteCpp.h>

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "course/course_table.h"
-#include "platform/timer.h"
+#include "platform/desktop/timer.h"
 #include "tests/support/course_rows.h"
 #include "tests/support/recorder.h"
 

@@ -1,9 +1,9 @@
 // Runs the tests of a room on windows of the offscreen platform, on a screen that every form fits on.
 
-#include "platform/application.h"
-#include "platform/look.h"
+#include "platform/desktop/application.h"
+#include "platform/desktop/look.h"
 #include "tests/support/ended_run.h"
-#include "tools/offscreen.h"
+#include "tools/support/offscreen.h"
 
 #include <QFileInfo>
 #include <QStorageInfo>

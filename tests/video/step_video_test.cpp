@@ -1,7 +1,7 @@
 #include "tests/video/video_desk.h"
 
 #include "course/walk.h"
-#include "platform/timer.h"
+#include "platform/desktop/timer.h"
 
 #include <gtest/gtest.h>
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/media_view.h"
+#include "platform/media/media_view.h"
 #include "tests/support/desk.h"
 
 #include <QDir>

@@ -1,6 +1,6 @@
 #include "tests/video/video_desk.h"
 
-#include "platform/look.h"
+#include "platform/desktop/look.h"
 
 #include <gtest/gtest.h>
 

@@ -2,7 +2,7 @@
 
 #include "tests/support/desk.h"
 
-#include "platform/controls.h"
+#include "platform/desktop/controls.h"
 
 #include <string>
 #include <utility>

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/report_preview.h"
+#include "platform/reports/preview.h"
 #include "tests/worksheets/sheet_desk.h"
 #include "worksheets/worksheet_menu.h"
 

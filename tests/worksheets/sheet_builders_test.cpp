@@ -1,6 +1,6 @@
 #include "worksheets/sheet_builders.h"
 
-#include "platform/recordset.h"
+#include "platform/storage/recordset.h"
 #include "tests/support/desk.h"
 
 #include <gtest/gtest.h>

@@ -1,4 +1,4 @@
-#include "platform/report_preview.h"
+#include "platform/reports/preview.h"
 #include "tests/worksheets/sheet_desk.h"
 #include "worksheets/worksheet_menu.h"
 

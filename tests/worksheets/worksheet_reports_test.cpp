@@ -1,4 +1,4 @@
-#include "platform/report_data.h"
+#include "platform/reports/data.h"
 #include "tests/worksheets/menu_desk.h"
 
 #include <set>
