@@ -1,5 +1,7 @@
 #include "app/screens.h"
 
+#include "catalogue/drills.h"
+#include "catalogue/quizzes.h"
 #include "core/login_panel.h"
 #include "core/study_time.h"
 #include "course/course_table.h"
@@ -29,10 +31,10 @@ ScreenMakers allScreens() {
     makers.insert(QStringLiteral("frmLogIn2"), maker<core::LoginPanel>());
     makers.insert(QStringLiteral("frmTime"), maker<core::StudyTime>());
     makers.insert(QStringLiteral("frmTable"), maker<course::CourseTable>());
-    for (const quizzes::QuizEntry& quiz : quizzes::quizEntries())
+    for (const catalogue::QuizEntry& quiz : catalogue::quizEntries())
         makers.insert(QLatin1String(quiz.form),
                       [&quiz](core::Context& context) { return quizzes::makeQuiz(context, quiz); });
-    for (const lessons::Drill& drill : lessons::drillCatalogue())
+    for (const catalogue::Drill& drill : catalogue::drillCatalogue())
         makers.insert(QString::fromUtf8(drill.name),
                       [&drill](core::Context& context) { return lessons::makeDrill(context, drill); });
     makers.insert(QStringLiteral("frmVideo"), maker<video::VideoMenu>());

@@ -2,6 +2,7 @@
 // from the click on Answer to the red words painted. Medians stand in counters, in milliseconds, since one
 // slow flush to the disk must not blur what a learner meets as a rule.
 
+#include "catalogue/drills.h"
 #include "course/preparation.h"
 #include "lessons/drill_maker.h"
 #include "platform/desktop/controls.h"
@@ -34,7 +35,7 @@ class Medians {
 };
 
 /// A course of one unit with one drill step, its content in the master stores.
-void layCourse(const support::Desk& desk, const lessons::Drill& drill) {
+void layCourse(const support::Desk& desk, const catalogue::Drill& drill) {
     const std::string name = drill.name;
     desk.exec(support::courseStore,
               "BEGIN; INSERT INTO topic (topicno, Title) VALUES (1, 'unit');"
@@ -68,7 +69,7 @@ void takeStep(support::Desk& desk) {
 
 /// The time that the first tick of a drill's form takes: reading and writing the working tables, and filling
 /// the controls.
-std::chrono::duration<double, std::milli> timeFirstTick(support::Desk& desk, const lessons::Drill& drill) {
+std::chrono::duration<double, std::milli> timeFirstTick(support::Desk& desk, const catalogue::Drill& drill) {
     core::Screen* form = lessons::makeDrill(desk.context(), drill);
     auto& timer = support::find<platform::Timer>(form, QStringLiteral("TimerGo"));
     Clock::duration taken{};
@@ -91,14 +92,14 @@ void startFromTable(support::Desk& desk) {
 }
 
 /// The same without the video that some steps show first.
-void startPastVideo(support::Desk& desk, const lessons::Drill& drill) {
+void startPastVideo(support::Desk& desk, const catalogue::Drill& drill) {
     takeStep(desk);
     course::PrepareStepData(desk.context());
     desk.screens().open(QString::fromUtf8(drill.name));
 }
 
 void RowClickToDrillPainted(benchmark::State& state, const char* name, bool fromTable) {
-    const lessons::Drill& drill = *lessons::findDrill(name);
+    const catalogue::Drill& drill = *catalogue::findDrill(name);
     support::Desk desk;
     layCourse(desk, drill);
     Medians total;
@@ -138,7 +139,7 @@ BENCHMARK_CAPTURE(RowClickToDrillPainted, largest_54_boxes, "frmLesson24", true)
     ->Iterations(60);
 
 void AnswerClickToRedWordsPainted(benchmark::State& state) {
-    const lessons::Drill& drill = *lessons::findDrill("frmLesson24");
+    const catalogue::Drill& drill = *catalogue::findDrill("frmLesson24");
     support::Desk desk;
     layCourse(desk, drill);
     takeStep(desk);

@@ -1,5 +1,6 @@
 #include "course/preparation.h"
 
+#include "catalogue/steps.h"
 #include "core/schema.h"
 #include "core/stores.h"
 #include "course/score_store.h"
@@ -21,8 +22,6 @@ namespace {
 constexpr int questionsPerFinalStep = 5;
 
 // The one lesson whose drill rows are those of two steps, and the one with a second list of prompts.
-constexpr int doubleStep = 15;
-constexpr int secondListStep = 115;
 
 Recordset emptied(const Database& database, const QString& table) {
     const QString sql = QStringLiteral("Select * from ") + table;
@@ -85,8 +84,10 @@ void fillWordBook(const Context& context, Recordset book, const Database& course
 
 QString basicRowsQuery(int recordNo) {
     const QString from = QStringLiteral("Select * from tovalin1_Basic_Data WHERE ");
-    if (recordNo == doubleStep)
-        return from + QStringLiteral("recordno >=15 and recordno <=16 order by autono");
+    if (recordNo == catalogue::doubleStep)
+        return from + QStringLiteral("recordno >=%1 and recordno <=%2 order by autono")
+                          .arg(catalogue::doubleStep)
+                          .arg(catalogue::secondPageRows);
     return from + QStringLiteral("recordno=%1 order by autono").arg(recordNo);
 }
 
@@ -106,10 +107,9 @@ void fillSecondList(const Database& course, const Database& master) {
 QString finalStepsQuery(const core::Session& session) {
     const QString from = QStringLiteral("Select * from tablework where ");
     const QString order = QStringLiteral(" order by recordno");
-    if (session.recordNo == 14)
-        return from + QStringLiteral("recordno >=2 and recordno<=13") + order;
-    if (session.recordNo == 20)
-        return from + QStringLiteral("recordno >=16 and recordno<=19") + order;
+    if (const auto steps = catalogue::drawnRange(session.recordNo))
+        return from + QStringLiteral("recordno >=%1 and recordno<=%2").arg(steps->first).arg(steps->last) +
+               order;
     return from + QStringLiteral("topicno =%1 and type='Quiz'").arg(session.topicNo) + order;
 }
 
@@ -212,7 +212,7 @@ void PrepareStepData(const Context& context, const QString& courseFile) {
              {course, QStringLiteral("gram_tip")}, core::tipCopyFields);
     copyRows(masterRows(basicRowsQuery(recordNo)), {course, QStringLiteral("basic_Data")},
              core::basicCopyFields);
-    if (recordNo == secondListStep)
+    if (recordNo == catalogue::secondListStep)
         fillSecondList(course, master);
     batch.commit();
 }

@@ -1,7 +1,7 @@
 #include "course/walk.h"
 
+#include "catalogue/steps.h"
 #include "core/stores.h"
-#include "course/dispatch.h"
 #include "course/preparation.h"
 #include "course/score.h"
 #include "platform/desktop/cursor.h"
@@ -19,19 +19,6 @@ using platform::Recordset;
 
 namespace {
 
-struct Skip {
-    int from;
-    NextRecord next;
-};
-
-// Holes of the course, and one way back: from 98 the row of 100 must exist, yet the walk returns to 10.
-constexpr std::array skips{
-    Skip{64, {66, 66}},    Skip{98, {100, 10}},   Skip{116, {118, 118}}, Skip{123, {125, 125}},
-    Skip{130, {132, 132}}, Skip{143, {145, 145}}, Skip{149, {151, 151}}, Skip{153, {156, 156}},
-    Skip{166, {169, 169}}, Skip{177, {180, 180}}, Skip{199, {201, 201}}, Skip{220, {221, 221}},
-    Skip{248, {250, 250}}, Skip{255, {256, 256}},
-};
-
 QString stepType(const QString& type) {
     if (type == QStringLiteral("Final") || type == QStringLiteral("Lesson"))
         return type;
@@ -48,7 +35,7 @@ int lastRecordNo(const Database& course) {
 Int16 followingRecordNo(const Session& session, const Database& course) {
     if (session.isReview())
         return session.reviewRecordNo;
-    const NextRecord next = nextRecord(session.recordNo);
+    const catalogue::NextRecord next = catalogue::nextRecord(session.recordNo);
     Recordset preliminary = course.openRecordset(
         QStringLiteral("Select * from tablework where recordno=%1").arg(next.preliminary));
     preliminary.moveFirst();
@@ -67,14 +54,6 @@ void findNextStep(Session& session, const Database& course) {
 }
 
 }  // namespace
-
-NextRecord nextRecord(int recordNo) {
-    const auto skip =
-        std::find_if(skips.begin(), skips.end(), [&](const Skip& s) { return s.from == recordNo; });
-    if (skip != skips.end())
-        return skip->next;
-    return {recordNo + 1, recordNo + 1};
-}
 
 void loadStep(Session& session, const Recordset& row) {
     session.topicNo = row.integer(QStringLiteral("topicno"));

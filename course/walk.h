@@ -4,14 +4,6 @@
 
 namespace course {
 
-/// Where the walk goes from a step: the step whose row must exist, and the step that is taken. They differ
-/// at one place of the course.
-struct NextRecord {
-    int preliminary = 0;
-    int taken = 0;
-};
-NextRecord nextRecord(int recordNo);
-
 /// Loads a row of `tablework` into the session as the step in hand; `usedata` is not among what it takes.
 void loadStep(core::Session& session, const platform::Recordset& row);
 /// Loads a row of `tablework_Final`: the fields that change from step to step inside a Final Quiz.

@@ -1,8 +1,11 @@
 #pragma once
 
+#include "catalogue/drills.h"
 #include "lessons/drill_screen.h"
 
 namespace lessons {
+
+using catalogue::Drill;
 
 /// A drill whose answers are phrases: beside the boxes stands a list of all answers to pick from.
 class AnswerListDrill final : public DrillScreen {

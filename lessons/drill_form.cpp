@@ -10,6 +10,13 @@
 
 namespace lessons {
 
+using catalogue::always;
+using catalogue::BoxColour;
+using catalogue::CompletionIcon;
+using catalogue::Field;
+using catalogue::never;
+using catalogue::Prompts;
+
 using platform::TextRole;
 
 namespace {
@@ -23,18 +30,23 @@ constexpr int narrowBox = 100;
 constexpr int leastPixels = 9;
 
 course::ChromeLayout chromeOf(const Drill& drill) {
+    const Tops& tops = layoutOf(drill.name).tops;
     course::ChromeLayout chrome;
     chrome.picture = drill.picture;
-    chrome.quizTop = drill.tops.quiz;
-    chrome.beginTop = drill.tops.begin;
-    chrome.nextTop = drill.tops.next;
-    chrome.preTop = drill.tops.pre;
+    chrome.quizTop = tops.quiz;
+    chrome.beginTop = tops.begin;
+    chrome.nextTop = tops.next;
+    chrome.preTop = tops.pre;
     chrome.hasBegin = drill.hasBegin;
     chrome.quizLabelName = drill.answerName;
     chrome.quizCaption = drill.answerCaption;
     chrome.preLabelName = drill.preName;
     chrome.preCaption = drill.preCaption;
     return chrome;
+}
+
+TextRole boxRole(const Drill& drill) {
+    return drill.takesPhrases ? TextRole::DrillPhrase : TextRole::DrillBox;
 }
 
 QRgb boxColour(const Drill& drill, int box) {
@@ -69,7 +81,7 @@ DrillForm::DrillForm(core::Context& context, const Drill& drill)
 }
 
 void DrillForm::buildTexts() {
-    const DrillLayout& layout = *drill_.layout;
+    const DrillLayout& layout = layoutOf(drill_.name);
     addLabel(QStringLiteral("lblTopic2"), layout.headline, TextRole::Heading,
              QString::fromUtf8(drill_.headline));
     Label& instruction = addLabel(QString::fromUtf8(drill_.instructionName), layout.instruction,
@@ -91,7 +103,7 @@ void DrillForm::buildTexts() {
 }
 
 void DrillForm::buildGrid() {
-    for (const GridBlock& block : drill_.layout->grid)
+    for (const GridBlock& block : layoutOf(drill_.name).grid)
         for (int n = 0; n < block.count; ++n)
             buildBox(block, n);
     for (int i = 0; i < static_cast<int>(drill_.fixedPrompts.size()); ++i)
@@ -105,7 +117,7 @@ void DrillForm::buildBox(const GridBlock& block, int n) {
         prompt.setCaption(samplePrompt);
         prompt.setVisible(!drill_.countsRows);
     }
-    TextBox& box = addTextBox(txtWord, boxPlace(block, n), drill_.boxText);
+    TextBox& box = addTextBox(txtWord, boxPlace(block, n), boxRole(drill_));
     const int index = txtWord.size() - 1;
     box.setFocusPolicy(Qt::ClickFocus);
     // Room for the sign at the right edge, which is as high as the box.
@@ -126,7 +138,7 @@ void DrillForm::buildBox(const GridBlock& block, int n) {
 }
 
 void DrillForm::fitText(TextBox& box) const {
-    QFont font = platform::roleFont(drill_.boxText, scale());
+    QFont font = platform::roleFont(boxRole(drill_), scale());
     while (font.pixelSize() > leastPixels &&
            QFontMetrics(font).horizontalAdvance(box.text()) > box.textRoom())
         font.setPixelSize(font.pixelSize() - 1);

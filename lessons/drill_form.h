@@ -1,10 +1,15 @@
 #pragma once
 
+#include "catalogue/drills.h"
 #include "course/exercise_screen.h"
-#include "lessons/drill_catalogue.h"
+#include "lessons/drill_layout.h"
 #include "platform/storage/recordset.h"
 
 namespace lessons {
+
+using catalogue::ClosedSets;
+using catalogue::Drill;
+using catalogue::SetUse;
 
 using core::Int16;
 using platform::Label;

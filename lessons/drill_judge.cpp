@@ -4,6 +4,8 @@
 
 namespace lessons {
 
+using catalogue::Terms;
+
 QString typedWord(const QString& boxText) {
     // Blanks alone: a tab that was pasted in is part of the word.
     qsizetype first = 0;

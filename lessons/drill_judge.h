@@ -1,10 +1,12 @@
 #pragma once
 
-#include "lessons/drill_catalogue.h"
+#include "catalogue/drills.h"
 
 #include <QString>
 
 namespace lessons {
+
+using catalogue::Drill;
 
 /// What a box holds, as the check takes it: blanks at both ends cut off, in lower case.
 QString typedWord(const QString& boxText);

@@ -7,6 +7,7 @@
 #include <QSize>
 
 #include <span>
+#include <string_view>
 
 namespace lessons {
 
@@ -39,6 +40,14 @@ struct FixedText {
     bool centred = false;
 };
 
+/// How far down the buttons of the side panel stand.
+struct Tops {
+    int quiz = 344;
+    int begin = 344;
+    int next = 456;
+    int pre = 560;
+};
+
 /// Where everything of a drill stands on the card, in design pixels.
 struct DrillLayout {
     QRect headline = {};
@@ -47,7 +56,11 @@ struct DrillLayout {
     RulePlaces rules = {};
     std::span<const GridBlock> grid = {};
     std::span<const FixedText> texts = {};
+    Tops tops = {};
 };
+
+/// The layout of a drill by the name of its screen.
+const DrillLayout& layoutOf(std::string_view drill);
 
 /// The place of the n-th box of a block, and that of its prompt.
 QRect boxPlace(const GridBlock& block, int n);
@@ -67,23 +80,5 @@ constexpr int promptTotal(const DrillLayout& layout) {
         total += block.promptWidth > 0 ? block.count : 0;
     return total;
 }
-
-namespace layouts {
-extern const DrillLayout plurals;
-extern const DrillLayout uncountables;
-extern const DrillLayout measures;
-extern const DrillLayout reading;
-extern const DrillLayout articles;
-extern const DrillLayout pronouns;
-extern const DrillLayout thirdPerson;
-extern const DrillLayout ingForms;
-extern const DrillLayout adjectives;
-extern const DrillLayout adverbs;
-extern const DrillLayout comparison;
-extern const DrillLayout prepositions;
-extern const DrillLayout regularPast;
-extern const DrillLayout irregularPast;
-extern const DrillLayout numbers;
-}  // namespace layouts
 
 }  // namespace lessons

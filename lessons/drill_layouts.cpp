@@ -1,11 +1,16 @@
 #include "lessons/drill_layout.h"
 
+#include <algorithm>
 #include <array>
 
 // The card spans 12 to 856 by 84 to 706; texts keep clear of its notebook margin.
-namespace lessons::layouts {
+namespace lessons {
 
 namespace {
+
+constexpr Tops lowerTops(int quiz) {
+    return {.quiz = quiz, .begin = quiz, .next = 496, .pre = 600};
+}
 
 using platform::TextRole;
 
@@ -147,8 +152,6 @@ constexpr std::array irregularPastGrid{GridBlock{
 constexpr std::array numberGrid{GridBlock{
     .count = 54, .lines = 18, .origin = {330, 175}, .pitch = {173, 29}, .box = {122, 25}, .promptWidth = 46}};
 
-}  // namespace
-
 constexpr DrillLayout plurals{.headline = topHeadline,
                               .instruction = topInstruction,
                               .story = storyAbove(222),
@@ -158,11 +161,13 @@ constexpr DrillLayout uncountables{.headline = topHeadline,
                                    .instruction = topInstruction,
                                    .story = storyAbove(222),
                                    .rules = rulesAbove(7, 31),
-                                   .grid = uncountableGrid};
+                                   .grid = uncountableGrid,
+                                   .tops = lowerTops(368)};
 constexpr DrillLayout measures{.headline = topHeadline,
                                .instruction = topInstruction,
                                .rules = {.origin = {36, 174}, .pitch = {368, 39}, .lines = 13},
-                               .grid = measureGrid};
+                               .grid = measureGrid,
+                               .tops = lowerTops(368)};
 constexpr DrillLayout reading{.story = {60, 104, 690, 586}, .rules = noRules};
 constexpr DrillLayout articles{.headline = {36, 284, 808, 26},
                                .instruction = {36, 98, 808, 42},
@@ -174,12 +179,14 @@ constexpr DrillLayout pronouns{.headline = topHeadline,
                                .story = {36, 166, 452, 174},
                                .rules = {.origin = {508, 166}, .pitch = {340, 19}, .lines = 9},
                                .grid = pronounGrid,
-                               .texts = pronounTexts};
+                               .texts = pronounTexts,
+                               .tops = lowerTops(368)};
 constexpr DrillLayout thirdPerson{.headline = topHeadline,
                                   .instruction = topInstruction,
                                   .story = storyAbove(222),
                                   .rules = rulesAbove(6, 36),
-                                  .grid = thirdPersonGrid};
+                                  .grid = thirdPersonGrid,
+                                  .tops = lowerTops(384)};
 constexpr DrillLayout ingForms{.headline = topHeadline,
                                .instruction = topInstruction,
                                .story = storyAbove(206),
@@ -190,7 +197,8 @@ constexpr DrillLayout adjectives{.headline = topHeadline,
                                  .instruction = topInstruction,
                                  .story = storyAbove(204),
                                  .rules = rulesAbove(4, 44),
-                                 .grid = adjectiveGrid};
+                                 .grid = adjectiveGrid,
+                                 .tops = lowerTops(376)};
 constexpr DrillLayout adverbs{.headline = topHeadline,
                               .instruction = topInstruction,
                               .story = storyAbove(280),
@@ -201,7 +209,8 @@ constexpr DrillLayout comparison{.headline = topHeadline,
                                  .story = {476, 178, 368, 300},
                                  .rules = {.origin = {480, 492}, .pitch = {372, 33}, .lines = 6},
                                  .grid = comparisonGrid,
-                                 .texts = comparisonTexts};
+                                 .texts = comparisonTexts,
+                                 .tops = {.begin = 336}};
 constexpr DrillLayout prepositions{.headline = topHeadline,
                                    .instruction = {36, 122, 808, 20},
                                    .story = storyAbove(192),
@@ -221,4 +230,28 @@ constexpr DrillLayout numbers{.headline = topHeadline,
                               .rules = noRules,
                               .grid = numberGrid};
 
-}  // namespace lessons::layouts
+struct Named {
+    std::string_view drill;
+    const DrillLayout* layout;
+};
+
+constexpr std::array all{
+    Named{"frmLesson", &plurals},       Named{"frmLesson2", &uncountables},
+    Named{"frmLesson2_2", &measures},   Named{"frmLesson3", &reading},
+    Named{"frmLesson3_2", &articles},   Named{"frmLesson4", &pronouns},
+    Named{"frmLesson7", &thirdPerson},  Named{"frmLesson8", &ingForms},
+    Named{"frmLesson9", &adjectives},   Named{"frmLesson10", &adverbs},
+    Named{"frmLesson11", &comparison},  Named{"frmLesson17", &prepositions},
+    Named{"frmLesson18", &regularPast}, Named{"frmLesson18_2", &irregularPast},
+    Named{"frmLesson24", &numbers},
+};
+
+}  // namespace
+
+const DrillLayout& layoutOf(std::string_view drill) {
+    return *std::find_if(all.begin(), all.end(), [&](const Named& row) {
+                return row.drill == drill;
+            })->layout;
+}
+
+}  // namespace lessons

@@ -8,6 +8,8 @@
 
 namespace lessons {
 
+using catalogue::Flow;
+
 core::Screen* makeDrill(core::Context& context, const Drill& drill) {
     switch (drill.flow) {
         case Flow::Table: return new DrillScreen(context, drill);

@@ -1,8 +1,12 @@
 #include "lessons/drill_screen.h"
 
+#include "catalogue/drills.h"
 #include "lessons/drill_judge.h"
 
 namespace lessons {
+
+using catalogue::Field;
+using catalogue::never;
 
 using platform::BoxMark;
 

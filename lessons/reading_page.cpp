@@ -1,16 +1,17 @@
 #include "lessons/reading_page.h"
 
+#include "catalogue/steps.h"
+
 namespace lessons {
 
 namespace {
 
 // The step whose cloze the page belongs to.
-constexpr int clozeRecord = 21;
 
 }  // namespace
 
 void ReadingPage::nextClicked() {
-    if (session().recordNo == clozeRecord) {
+    if (session().recordNo == catalogue::clozeStep) {
         leaveTo(QStringLiteral("frmLesson3_2"));
         return;
     }

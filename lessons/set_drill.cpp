@@ -1,5 +1,6 @@
 #include "lessons/set_drill.h"
 
+#include "catalogue/steps.h"
 #include "core/stores.h"
 #include "lessons/drill_judge.h"
 
@@ -16,7 +17,6 @@ const QString unmatched = QStringLiteral("NONE");
 
 // The one step whose first page has a result column of its own.
 constexpr int pairTopic = 1;
-constexpr int pairRecord = 15;
 
 void addBlank(Recordset& blanks, int blankNo, int orderNo) {
     blanks.addNew();
@@ -35,7 +35,7 @@ void SetDrill::firstTick() {
 
 void SetDrill::checkStoredPart() {
     core::Session& s = session();
-    if (s.recordNo != pairRecord || s.topicNo != pairTopic)
+    if (s.recordNo != catalogue::doubleStep || s.topicNo != pairTopic)
         return;
     s.scoreDb = core::openScores(context());
     s.scoreRs =

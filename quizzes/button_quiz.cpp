@@ -1,8 +1,13 @@
 #include "quizzes/button_quiz.h"
 
+#include "catalogue/judging.h"
 #include "platform/desktop/input_gate.h"
 
 namespace quizzes {
+
+using catalogue::buttonCount;
+using catalogue::ButtonSet;
+using catalogue::buttonSet;
 
 namespace {
 

@@ -1,8 +1,11 @@
 #pragma once
 
+#include "catalogue/quizzes.h"
 #include "quizzes/question_quiz.h"
 
 namespace quizzes {
+
+using catalogue::QuizEntry;
 
 /// `frmQuiz5`: one press of a button answers. What the buttons say and how a press is judged goes by the
 /// step.

@@ -21,55 +21,6 @@ Verdict wrong(const QString& message) {
     return {Outcome::Wrong, message};
 }
 
-enum class AnswerField { First, Second, Either };
-
-struct CorrectionRule {
-    RecordRange steps;
-    AnswerField field;
-    /// From Enter one rule leaves its rows unmarked.
-    bool enterMarks = true;
-};
-
-constexpr std::array correctionRules{
-    CorrectionRule{{18, 19}, AnswerField::Second},   CorrectionRule{{34, 35}, AnswerField::First},
-    CorrectionRule{{63, 64}, AnswerField::First},    CorrectionRule{{72, 72}, AnswerField::First, false},
-    CorrectionRule{{85, 86}, AnswerField::First},    CorrectionRule{{201, 204}, AnswerField::First},
-    CorrectionRule{{213, 214}, AnswerField::First},  CorrectionRule{{238, 239}, AnswerField::First},
-    CorrectionRule{{250, 251}, AnswerField::Either},
-};
-
-template <typename Rules>
-auto findRule(const Rules& rules, int recordNo) {
-    const auto found = std::find_if(rules.begin(), rules.end(),
-                                    [&](const auto& rule) { return rule.steps.holds(recordNo); });
-    return found == rules.end() ? nullptr : &*found;
-}
-
-constexpr std::array articleCaptions{"<a>", "<an>", "<the>", "Not Need"};
-constexpr std::array numberCaptions{"1", "2", "3", "4", "5"};
-constexpr std::array verbCaptions{"is", "are", "do", "does"};
-constexpr std::array conjunctionCaptions{"and", "or", "but"};
-constexpr const char* articleMemo = "문장의 빈 칸에 들어갈 관사를 선택하십시오.";
-constexpr const char* wordMemo = "빈 칸에 들어갈 알맞는 단어를 클릭하십시오.";
-
-struct ButtonRule {
-    RecordRange steps;
-    ButtonSet set;
-};
-
-constexpr std::array buttonRules{
-    ButtonRule{{110, 111}, {numberCaptions, "번호를 클릭하십시오."}},
-    ButtonRule{{137, 140}, {verbCaptions, wordMemo}},
-    ButtonRule{{153, 160}, {conjunctionCaptions, wordMemo}},
-};
-
-// From here on every step compares with captions, also those that keep the captions of the article rows.
-constexpr int captionsFrom = 153;
-
-bool comparesCaptions(int recordNo) {
-    return recordNo >= captionsFrom || findRule(buttonRules, recordNo) != nullptr;
-}
-
 const QString noArticle = QStringLiteral("Blank");
 constexpr int noArticleButton = 3;
 
@@ -86,18 +37,6 @@ Verdict judgeArticle(int index, const QString& a1) {
         return wrong(wrongChoice + QStringLiteral("관사가 필요없는 문장입니다."));
     return wrong(wrongChoice + QStringLiteral("정답은 ") + a1);
 }
-
-struct SentenceRule {
-    RecordRange steps;
-    SentenceFields fields;
-};
-
-constexpr std::array sentenceRules{
-    SentenceRule{{121, 123}, {"q1", "q2"}},
-    SentenceRule{{134, 136}, {"q1", "q2"}},
-    SentenceRule{{128, 131}, {nullptr, "q1"}},
-    SentenceRule{{147, 149}, {nullptr, "q1"}},
-};
 
 }  // namespace
 
@@ -128,11 +67,11 @@ Verdict judgePicks(Compare compare, const QString& first, const QString& second,
 
 Verdict judgeCorrection(int recordNo, const QString& typed, const QString& a1, const QString& a2,
                         bool byEnter) {
-    const CorrectionRule* rule = findRule(correctionRules, recordNo);
+    const catalogue::CorrectionRule* rule = catalogue::correctionRule(recordNo);
     if (rule == nullptr)
         return {};
-    const bool either = rule->field == AnswerField::Either;
-    const QString& answer = rule->field == AnswerField::Second ? a2 : a1;
+    const bool either = rule->field == catalogue::AnswerField::Either;
+    const QString& answer = rule->field == catalogue::AnswerField::Second ? a2 : a1;
     if (matches(Compare::TrimmedLowerCase, typed, answer) ||
         (either && matches(Compare::TrimmedLowerCase, typed, a2)))
         return right();
@@ -143,13 +82,8 @@ Verdict judgeCorrection(int recordNo, const QString& typed, const QString& a1, c
     return verdict;
 }
 
-ButtonSet buttonSet(int recordNo) {
-    const ButtonRule* rule = findRule(buttonRules, recordNo);
-    return rule == nullptr ? ButtonSet{articleCaptions, articleMemo} : rule->set;
-}
-
 Verdict judgeButton(int recordNo, int index, const QString& caption, const QString& a1) {
-    if (!comparesCaptions(recordNo))
+    if (!catalogue::comparesCaptions(recordNo))
         return judgeArticle(index, a1);
     if (caption == a1)
         return right();
@@ -162,11 +96,6 @@ Verdict judgeSentence(Compare compare, const QString& typed, const QString& a1) 
     if (matches(compare, typed, a1))
         return right();
     return wrong(wrongTyping + rightSentence + a1);
-}
-
-SentenceFields sentenceFields(int recordNo) {
-    const SentenceRule* rule = findRule(sentenceRules, recordNo);
-    return rule == nullptr ? SentenceFields{"q1", nullptr} : rule->fields;
 }
 
 QStringList answerWords(const QString& a1) {

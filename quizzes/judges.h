@@ -1,11 +1,14 @@
 #pragma once
 
-#include "quizzes/quiz_catalogue.h"
+#include "catalogue/judging.h"
+#include "catalogue/quizzes.h"
 
 #include <QString>
 #include <QStringList>
 
 namespace quizzes {
+
+using catalogue::Compare;
 
 enum class Outcome { Right, Wrong, NotJudged };
 
@@ -33,28 +36,11 @@ Verdict judgePicks(Compare compare, const QString& first, const QString& second,
 Verdict judgeCorrection(int recordNo, const QString& typed, const QString& a1, const QString& a2,
                         bool byEnter);
 
-/// How many buttons there are.
-inline constexpr int buttonCount = 5;
-
-/// The buttons of a step: captions, those beyond being hidden, and the instruction.
-struct ButtonSet {
-    std::span<const char* const> captions;
-    const char* memo;
-};
-ButtonSet buttonSet(int recordNo);
-
 /// A press of the button with an index and a caption.
 Verdict judgeButton(int recordNo, int index, const QString& caption, const QString& a1);
 
 /// A typed sentence. Compared letter by letter, what follows the length of the answer is not looked at.
 Verdict judgeSentence(Compare compare, const QString& typed, const QString& a1);
-
-/// Which field a label of the sentence quiz takes on a step; null leaves the label as it is.
-struct SentenceFields {
-    const char* word;
-    const char* korean;
-};
-SentenceFields sentenceFields(int recordNo);
 
 /// The words of an answer in box order. A single word stays whole, several are filtered to their letters.
 QStringList answerWords(const QString& a1);

@@ -1,9 +1,12 @@
 #include "quizzes/pool_quiz.h"
 
+#include "catalogue/quizzes.h"
 #include "platform/desktop/input_gate.h"
 #include "quizzes/fitted_text.h"
 
 namespace quizzes {
+
+using catalogue::tableRows;
 
 namespace {
 

@@ -1,8 +1,11 @@
 #pragma once
 
+#include "catalogue/quizzes.h"
 #include "quizzes/table_quiz.h"
 
 namespace quizzes {
+
+using catalogue::QuizEntry;
 
 /// `frmQuiz11` and `frmQuiz12`: one pool of answers, in an order of its own, fills the answer slots from the
 /// top down.

@@ -1,10 +1,15 @@
 #include "quizzes/question_quiz.h"
 
+#include "catalogue/quizzes.h"
 #include "core/play_sound.h"
 #include "course/score.h"
 #include "quizzes/fitted_text.h"
+#include "quizzes/quiz_places.h"
 
 namespace quizzes {
+
+using catalogue::Look;
+using catalogue::ShownField;
 
 namespace {
 
@@ -13,8 +18,10 @@ constexpr int keyWidth = 22;
 }  // namespace
 
 QuestionQuiz::QuestionQuiz(core::Context& context, const QuizEntry& entry) : QuizScreen(context, entry) {
-    for (const ShownField& field : entry.shown) {
-        const QRect place(field.left, field.top, field.width, field.height);
+    const auto places = placesOf(entry.form).shown;
+    for (std::size_t i = 0; i < entry.shown.size(); ++i) {
+        const ShownField& field = entry.shown[i];
+        const QRect& place = places[i];
         Label& label = addLabel(QLatin1String(field.control), place, roleOf(field.look));
         dress(label, field.look);
         shown_.push_back(&label);
@@ -23,7 +30,7 @@ QuestionQuiz::QuestionQuiz(core::Context& context, const QuizEntry& entry) : Qui
         makeClickable(label);
         choices_.push_back(&label);
         Label& key = addLabel(QStringLiteral("lblKey(%1)").arg(choices_.size() - 1),
-                              QRect(field.left - keyWidth, field.top, keyWidth - 4, field.height),
+                              QRect(place.left() - keyWidth, place.top(), keyWidth - 4, place.height()),
                               TextRole::Caption, QString::number(choices_.size()));
         key.setAlignment(Qt::AlignCenter);
         key.setForeColor(platform::colour::accent);

@@ -1,11 +1,14 @@
 #pragma once
 
+#include "catalogue/quizzes.h"
 #include "quizzes/judges.h"
 #include "quizzes/quiz_screen.h"
 
 #include <map>
 
 namespace quizzes {
+
+using catalogue::QuizEntry;
 
 /// The shape that asks one question at a time: every row once, in its drawn order, right or wrong.
 class QuestionQuiz : public QuizScreen {

@@ -1,9 +1,11 @@
 #pragma once
 
+#include "catalogue/quizzes.h"
 #include "platform/desktop/form.h"
-#include "quizzes/quiz_catalogue.h"
 
 namespace quizzes {
+
+using catalogue::Look;
 
 /// The left edge and the width of what stands on the content card.
 inline constexpr int cardLeft = 40;

@@ -12,6 +12,8 @@
 
 namespace quizzes {
 
+using catalogue::Answering;
+
 core::Screen* makeQuiz(core::Context& context, const QuizEntry& entry) {
     switch (entry.answering) {
         case Answering::Choice: return new ChoiceQuiz(context, entry);

@@ -12,6 +12,8 @@
 
 namespace quizzes {
 
+using catalogue::Shape;
+
 namespace {
 
 constexpr int scoreSlot = 4;
@@ -287,7 +289,8 @@ void QuizScreen::finishFinalStep(const CheckManner& manner, Int16 score) {
     QString text = QStringLiteral("Good Job! Grammar Final Quiz Completed!");
     if (entry_.finalMessage.tellsScore)
         text += QStringLiteral("\n\n점수는 %1 입니다.").arg(s.scoreValue);
-    context().boxes.show({text, entry_.finalMessage.icon, {}, false});
+    const auto icon = entry_.finalMessage.hasIcon ? platform::BoxIcon::Information : platform::BoxIcon::None;
+    context().boxes.show({text, icon, {}, false});
     if (!manner.keepsAverage)
         s.scoreValue = score;
     course::SaveScore(context());

@@ -1,11 +1,16 @@
 #pragma once
 
+#include "catalogue/quizzes.h"
 #include "course/exercise_screen.h"
 #include "platform/error.h"
-#include "quizzes/quiz_catalogue.h"
 #include "quizzes/quiz_look.h"
 
 namespace quizzes {
+
+using catalogue::CheckManner;
+using catalogue::EndAct;
+using catalogue::QuizEntry;
+using catalogue::TeacherHelp;
 
 /// What a restart shuffles, whatever else the first start does.
 inline constexpr std::array restartOrder{"orderno"};

@@ -1,8 +1,11 @@
 #include "quizzes/row_choice_quiz.h"
 
+#include "catalogue/quizzes.h"
 #include "quizzes/fitted_text.h"
 
 namespace quizzes {
+
+using catalogue::tableRows;
 
 namespace {
 

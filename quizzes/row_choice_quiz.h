@@ -1,8 +1,11 @@
 #pragma once
 
+#include "catalogue/quizzes.h"
 #include "quizzes/table_quiz.h"
 
 namespace quizzes {
+
+using catalogue::QuizEntry;
 
 /// `frmQuiz`: two choices beside each question; the one picked stands in the answer column.
 class RowChoiceQuiz final : public TableQuiz {

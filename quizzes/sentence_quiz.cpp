@@ -1,8 +1,12 @@
 #include "quizzes/sentence_quiz.h"
 
+#include "catalogue/judging.h"
 #include "quizzes/fitted_text.h"
 
 namespace quizzes {
+
+using catalogue::SentenceFields;
+using catalogue::sentenceFields;
 
 namespace {
 

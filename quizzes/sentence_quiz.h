@@ -1,8 +1,11 @@
 #pragma once
 
+#include "catalogue/quizzes.h"
 #include "quizzes/question_quiz.h"
 
 namespace quizzes {
+
+using catalogue::QuizEntry;
 
 /// `frmQuiz6`: a whole sentence is typed, and judged letter by letter.
 class SentenceQuiz final : public QuestionQuiz {

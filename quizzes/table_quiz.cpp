@@ -1,9 +1,15 @@
 #include "quizzes/table_quiz.h"
 
+#include "catalogue/quizzes.h"
 #include "quizzes/fitted_text.h"
 #include "quizzes/judges.h"
 
 namespace quizzes {
+
+using catalogue::CountersShown;
+using catalogue::Look;
+using catalogue::TableCounters;
+using catalogue::tableRows;
 
 namespace {
 
@@ -29,9 +35,11 @@ bool isClickable(ColumnKind kind) {
 }  // namespace
 
 TableQuiz::TableQuiz(core::Context& context, const QuizEntry& entry) : QuizScreen(context, entry) {
-    for (const Column& column : entry.columns) {
+    const auto places = placesOf(entry.form).columns;
+    for (std::size_t i = 0; i < entry.columns.size(); ++i) {
+        const Column& column = entry.columns[i];
         const QString name = QLatin1String(column.array);
-        columns.push_back({&column, ControlArray<Label>(name), ControlArray<TextBox>(name)});
+        columns.push_back({&column, places[i], ControlArray<Label>(name), ControlArray<TextBox>(name)});
     }
     addHint(hintTop);
     buildHeadings();
@@ -46,9 +54,10 @@ TableQuiz::TableQuiz(core::Context& context, const QuizEntry& entry) : QuizScree
 
 void TableQuiz::buildHeadings() {
     ControlArray<Label> headings(QStringLiteral("lblHeading"));
-    for (const Column& column : entry().columns) {
-        Label& heading =
-            addLabel(headings, QRect(column.left, headingTop, column.width, 18), TextRole::Caption);
+    for (const ColumnControls& controls : columns) {
+        const Column& column = *controls.column;
+        Label& heading = addLabel(headings, QRect(controls.place.left, headingTop, controls.place.width, 18),
+                                  TextRole::Caption);
         heading.setCaption(QLatin1String(column.heading));
         heading.setForeColor(platform::colour::accent);
         if (!isPlain(column.kind))
@@ -64,7 +73,7 @@ void TableQuiz::buildRow(int row) {
     number.setCaption(QString::number(row + 1));
     for (ColumnControls& controls : columns) {
         const Column& column = *controls.column;
-        const QRect place(column.left, top, column.width, rowHeight);
+        const QRect place(controls.place.left, top, controls.place.width, rowHeight);
         if (controls.isBoxes()) {
             TextBox& box = addTextBox(controls.boxes, place, TextRole::Row);
             box.setAlignment(Qt::AlignLeft | Qt::AlignVCenter);

@@ -1,13 +1,17 @@
 #pragma once
 
+#include "catalogue/quizzes.h"
+#include "quizzes/quiz_places.h"
 #include "quizzes/quiz_screen.h"
 
 #include <vector>
 
 namespace quizzes {
 
-/// How many rows a table has room for.
-inline constexpr int tableRows = 15;
+using catalogue::CheckManner;
+using catalogue::Column;
+using catalogue::ColumnKind;
+using catalogue::QuizEntry;
 
 /// The shape that shows all rows at once and judges them by one press. Until all of them are right nothing is
 /// stored; then it is full marks.
@@ -17,6 +21,7 @@ class TableQuiz : public QuizScreen {
     /// The controls of a column; a column of boxes has boxes, any other labels.
     struct ColumnControls {
         const Column* column;
+        ColumnPlace place;
         ControlArray<Label> labels;
         ControlArray<TextBox> boxes;
         bool isBoxes() const { return column->kind == ColumnKind::Box; }

@@ -1,8 +1,11 @@
 #pragma once
 
+#include "catalogue/quizzes.h"
 #include "quizzes/question_quiz.h"
 
 namespace quizzes {
+
+using catalogue::QuizEntry;
 
 /// `frmQuiz3`: one choice of each of two pairs, judged together.
 class TwoPickQuiz final : public QuestionQuiz {

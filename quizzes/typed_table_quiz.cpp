@@ -1,11 +1,15 @@
 #include "quizzes/typed_table_quiz.h"
 
+#include "catalogue/quizzes.h"
 #include "core/stores.h"
 #include "quizzes/judges.h"
 
 #include <algorithm>
 
 namespace quizzes {
+
+using catalogue::CountersShown;
+using catalogue::tableRows;
 
 TypedTableQuiz::TypedTableQuiz(core::Context& context, const QuizEntry& entry) : TableQuiz(context, entry) {
     for (std::size_t i = 0; i < columns.size(); ++i)

@@ -1,8 +1,11 @@
 #pragma once
 
+#include "catalogue/quizzes.h"
 #include "quizzes/table_quiz.h"
 
 namespace quizzes {
+
+using catalogue::QuizEntry;
 
 /// `frmQuiz2` and `frmQuiz9`: boxes to type in, one or two a row. A failed check shows the right answers and
 /// locks their boxes; a retry empties those alone.

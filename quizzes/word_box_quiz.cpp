@@ -1,6 +1,10 @@
 #include "quizzes/word_box_quiz.h"
 
+#include "catalogue/quizzes.h"
+
 namespace quizzes {
+
+using catalogue::TeacherHelp;
 
 namespace {
 

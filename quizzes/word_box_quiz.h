@@ -1,8 +1,11 @@
 #pragma once
 
+#include "catalogue/quizzes.h"
 #include "quizzes/question_quiz.h"
 
 namespace quizzes {
+
+using catalogue::QuizEntry;
 
 /// `frmQuiz10`: one to four words are typed in boxes under a sentence with gaps.
 class WordBoxQuiz final : public QuestionQuiz {

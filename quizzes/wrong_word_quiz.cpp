@@ -1,5 +1,6 @@
 #include "quizzes/wrong_word_quiz.h"
 
+#include "catalogue/quizzes.h"
 #include "quizzes/fitted_text.h"
 
 #include <QFontMetrics>
@@ -8,6 +9,8 @@
 #include <cmath>
 
 namespace quizzes {
+
+using catalogue::Look;
 
 namespace {
 

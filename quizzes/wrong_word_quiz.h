@@ -1,8 +1,11 @@
 #pragma once
 
+#include "catalogue/quizzes.h"
 #include "quizzes/question_quiz.h"
 
 namespace quizzes {
+
+using catalogue::QuizEntry;
 
 /// `frmQuiz4`: a word of the sentence is clicked, and the right one typed for it. The click is a gate alone;
 /// what is judged is the typed word.

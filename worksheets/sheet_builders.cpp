@@ -8,6 +8,9 @@
 
 namespace worksheets {
 
+using catalogue::Builder;
+using catalogue::builderOf;
+
 using platform::Database;
 using platform::Int16;
 using platform::Recordset;
@@ -186,12 +189,6 @@ void buildBrackets(const Database& course) {
     }
 }
 
-/// The first steps of ranges whose questions have a second line to read.
-bool hasSecondLine(int firstStep) {
-    constexpr std::array steps{121, 134, 165, 208};
-    return std::find(steps.begin(), steps.end(), firstStep) != steps.end();
-}
-
 void addFinalLines(const Database& course, const Recordset& range, Recordset& lines, Int16& lineNo) {
     const int first = range.integer(QStringLiteral("recordno"));
     Recordset questions =
@@ -201,7 +198,7 @@ void addFinalLines(const Database& course, const Recordset& range, Recordset& li
     for (; !questions.eof(); questions.moveNext()) {
         lines.addNew();
         lines.set(QStringLiteral("word1"), questions.value(QStringLiteral("q1")));
-        if (hasSecondLine(first))
+        if (catalogue::hasSecondLine(first))
             lines.set(QStringLiteral("word2"), questions.value(QStringLiteral("q2")));
         lines.set(QStringLiteral("recordno"), questions.value(QStringLiteral("recordno")));
         lines.set(QStringLiteral("word7"), questions.value(QStringLiteral("a1")));

@@ -1,7 +1,7 @@
 #pragma once
 
+#include "catalogue/sheets.h"
 #include "platform/storage/database.h"
-#include "worksheets/sheet_tables.h"
 
 #include <QString>
 

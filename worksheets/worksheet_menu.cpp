@@ -1,5 +1,6 @@
 #include "worksheets/worksheet_menu.h"
 
+#include "catalogue/sheets.h"
 #include "core/play_sound.h"
 #include "core/stores.h"
 #include "course/preparation.h"
@@ -7,6 +8,10 @@
 #include "worksheets/sheet_builders.h"
 
 namespace worksheets {
+
+using catalogue::isRefused;
+using catalogue::SheetTemplate;
+using catalogue::templateOf;
 
 using platform::Recordset;
 using platform::TextRole;

@@ -1,8 +1,8 @@
 #include "app/screen_loop.h"
 
 #include "app/screens.h"
+#include "catalogue/dispatch.h"
 #include "core/startup.h"
-#include "course/dispatch.h"
 #include "platform/desktop/waiting.h"
 #include "tests/support/desk.h"
 
@@ -233,7 +233,7 @@ TEST(Screens, EveryScreenThatTheCourseNamesHasAMaker) {
     const ScreenMakers makers = app::allScreens();
     for (const char* name : {"frmLogIn2", "frmTime", "frmTable"})
         EXPECT_TRUE(makers.contains(QLatin1String(name))) << name;
-    for (const course::DispatchRow& row : course::dispatchRows()) {
+    for (const catalogue::DispatchRow& row : catalogue::dispatchRows()) {
         const bool opens =
             row.screen.empty() || makers.contains(QString::fromStdString(std::string(row.screen)));
         EXPECT_TRUE(opens) << row.screen;

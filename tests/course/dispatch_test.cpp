@@ -1,4 +1,4 @@
-#include "course/dispatch.h"
+#include "catalogue/dispatch.h"
 
 #include "course/walk.h"
 #include "tests/support/recorder.h"
@@ -73,7 +73,7 @@ TEST_F(DispatchTest, NoOtherNameShowsAnything) {
         EXPECT_TRUE(navigator.asked.empty()) << name;
     }
     EXPECT_TRUE(desk.boxes.shown.empty());
-    EXPECT_EQ(course::dispatchRows().size(), 26U);
+    EXPECT_EQ(catalogue::dispatchRows().size(), 26U);
 }
 
 TEST_F(DispatchTest, FrmLesson18HasItsVideoAtStep183Only) {

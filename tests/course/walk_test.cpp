@@ -1,4 +1,5 @@
 #include "course/walk.h"
+#include "catalogue/steps.h"
 
 #include "course/score.h"
 
@@ -47,7 +48,7 @@ TEST_P(NextRecord, FollowsTheTableAndElseGoesOnByOne) {
     const int now = GetParam();
     const auto skip = skips.find(now);
     const Way expected = skip == skips.end() ? Way{now + 1, now + 1} : skip->second;
-    const course::NextRecord next = course::nextRecord(now);
+    const catalogue::NextRecord next = catalogue::nextRecord(now);
     EXPECT_EQ(next.preliminary, expected.preliminary);
     EXPECT_EQ(next.taken, expected.taken);
 }
@@ -61,7 +62,7 @@ TEST_F(WalkTest, FromStep63TheWalkGoesTo64AndFrom64To66AndNeverTo65) {
     nextFrom(64);
     EXPECT_EQ(session.recordNo, 66);
     for (int from = 1; from < 257; ++from)
-        EXPECT_NE(course::nextRecord(from).taken, 65);
+        EXPECT_NE(catalogue::nextRecord(from).taken, 65);
 }
 
 TEST_F(WalkTest, FromStep98TheWalkGoesBackTo10AndComesTo98Again) {
@@ -73,7 +74,7 @@ TEST_F(WalkTest, FromStep98TheWalkGoesBackTo10AndComesTo98Again) {
     EXPECT_EQ(session.topicNo, 1);
     int step = 10;
     for (int i = 0; i < 87; ++i)
-        step = course::nextRecord(step).taken;
+        step = catalogue::nextRecord(step).taken;
     EXPECT_EQ(step, 98) << "88 steps on, without 65";
 }
 

@@ -1,5 +1,6 @@
 // Words with accented letters: a capital is a capital in any alphabet, on every drill.
 
+#include "catalogue/drills.h"
 #include "tests/lessons/drill_desk.h"
 
 #include <gtest/gtest.h>
@@ -19,7 +20,7 @@ std::vector<Row> accentedRows(int count) {
 
 std::vector<std::string> typedDrills() {
     std::vector<std::string> names;
-    for (const lessons::Drill& drill : lessons::drillCatalogue())
+    for (const catalogue::Drill& drill : catalogue::drillCatalogue())
         if (drill.boxes > 0)
             names.emplace_back(drill.name);
     return names;
@@ -30,7 +31,7 @@ class AccentedWords : public ::testing::TestWithParam<std::string> {};
 }  // namespace
 
 TEST_P(AccentedWords, AreRightInSmallLettersAndInCapitals) {
-    const lessons::Drill& drill = *lessons::findDrill(GetParam());
+    const catalogue::Drill& drill = *catalogue::findDrill(GetParam());
     for (const bool capitals : {false, true}) {
         DrillDesk desk(QString::fromStdString(GetParam()), accentedRows(drill.boxes));
         ASSERT_NE(desk.open(), nullptr) << desk.failure().toStdString();
@@ -45,7 +46,7 @@ TEST_P(AccentedWords, AreRightInSmallLettersAndInCapitals) {
 }
 
 TEST_P(AccentedWords, AreWrongWithoutTheirAccents) {
-    const lessons::Drill& drill = *lessons::findDrill(GetParam());
+    const catalogue::Drill& drill = *catalogue::findDrill(GetParam());
     DrillDesk desk(QString::fromStdString(GetParam()), accentedRows(drill.boxes));
     ASSERT_NE(desk.open(), nullptr) << desk.failure().toStdString();
     desk.begin();

@@ -1,5 +1,7 @@
 // Walks every row of the catalogue, on paper and on its screen.
 
+#include "catalogue/drills.h"
+#include "lessons/drill_layout.h"
 #include "tests/lessons/drill_desk.h"
 
 #include <gtest/gtest.h>
@@ -7,11 +9,11 @@
 #include <set>
 
 using namespace lessons_test;
-using lessons::Drill;
+using catalogue::Drill;
 
 namespace {
 
-const QString pluralText = QString::fromUtf8(lessons::pluralInstruction);
+const QString pluralText = QString::fromUtf8(catalogue::pluralInstruction);
 const QString wordText = QStringLiteral(
     "<Begin>를 클릭하어 해당 단어를 입력하십시오. 자판의 <Enter> 키를 치면 다음 단어를 입력할 수 있습니다.  "
     "전체 단어를 입력한 후에는 "
@@ -98,20 +100,20 @@ class Catalogue : public ::testing::TestWithParam<Known> {};
 
 TEST(DrillCatalogue, HoldsTheFifteenDrillsUnderNamesOfTheirOwn) {
     std::set<std::string> names;
-    for (const Drill& drill : lessons::drillCatalogue())
+    for (const Drill& drill : catalogue::drillCatalogue())
         names.insert(drill.name);
     EXPECT_EQ(names.size(), 15U);
-    EXPECT_EQ(lessons::drillCatalogue().size(), 15U);
+    EXPECT_EQ(catalogue::drillCatalogue().size(), 15U);
     for (const Known& screen : known)
-        EXPECT_NE(lessons::findDrill(screen.name), nullptr) << screen.name;
-    EXPECT_EQ(lessons::findDrill("frmLesson5"), nullptr);
+        EXPECT_NE(catalogue::findDrill(screen.name), nullptr) << screen.name;
+    EXPECT_EQ(catalogue::findDrill("frmLesson5"), nullptr);
 }
 
 TEST(DrillCatalogue, AgreesWithItsLayouts) {
-    for (const Drill& drill : lessons::drillCatalogue()) {
+    for (const Drill& drill : catalogue::drillCatalogue()) {
         const int spare = drill.name == std::string("frmLesson2_2") ? 1 : 0;
-        EXPECT_EQ(lessons::boxTotal(*drill.layout), drill.boxes + spare) << drill.name;
-        EXPECT_EQ(lessons::promptTotal(*drill.layout), drill.prompts) << drill.name;
+        EXPECT_EQ(lessons::boxTotal(lessons::layoutOf(drill.name)), drill.boxes + spare) << drill.name;
+        EXPECT_EQ(lessons::promptTotal(lessons::layoutOf(drill.name)), drill.prompts) << drill.name;
         EXPECT_TRUE(drill.fixedPrompts.empty() ||
                     static_cast<int>(drill.fixedPrompts.size()) == drill.prompts);
     }
@@ -134,7 +136,7 @@ TEST(DrillCatalogue, ThePluralBoxesAre1200By300TwipsAndHoldTheirAnswersWhole) {
 }
 
 TEST(DrillCatalogue, AnswersStandInBoldTahomaAndPhrasesSmaller) {
-    for (const Drill& drill : lessons::drillCatalogue()) {
+    for (const Drill& drill : catalogue::drillCatalogue()) {
         if (drill.boxes == 0)
             continue;
         DrillDesk desk(QString::fromUtf8(drill.name));

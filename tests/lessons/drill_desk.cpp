@@ -9,7 +9,7 @@ using support::courseStore;
 namespace {
 
 /// A step number for a screen; the two second pages read records of their own whatever the step.
-int stepOf(const lessons::Drill& drill) {
+int stepOf(const catalogue::Drill& drill) {
     return drill.contentRecord != 0 ? drill.contentRecord : 500;
 }
 
@@ -21,10 +21,10 @@ std::string quoted(const QString& text) {
 }  // namespace
 
 DrillDesk::DrillDesk(const QString& screen)
-    : DrillDesk(screen, plainRows(lessons::findDrill(screen.toStdString())->boxes)) {}
+    : DrillDesk(screen, plainRows(catalogue::findDrill(screen.toStdString())->boxes)) {}
 
 DrillDesk::DrillDesk(const QString& screen, const std::vector<Row>& rows)
-    : drill_(*lessons::findDrill(screen.toStdString())), rows_(rows) {
+    : drill_(*catalogue::findDrill(screen.toStdString())), rows_(rows) {
     session.topicNo = topic;
     session.recordNo = stepOf(drill_);
     session.useForm = screen;
@@ -35,7 +35,7 @@ DrillDesk::DrillDesk(const QString& screen, const std::vector<Row>& rows)
     setRows(rows, session.recordNo);
     setTip(QStringLiteral("명사의 복수형"));
     setRules(drill_.ruleLines > 0 ? drill_.ruleLines : 1, session.recordNo);
-    if (drill_.promptSource == lessons::Prompts::SecondList)
+    if (drill_.promptSource == catalogue::Prompts::SecondList)
         setSecondList(drill_.prompts);
 }
 
@@ -133,7 +133,7 @@ QStringList DrillDesk::rightWords() const {
     QStringList words;
     for (const Row& row : rows_) {
         const bool plain = static_cast<int>(words.size()) + 1 >= drill_.plainFromOrder;
-        words.append(plain || drill_.rightWord == lessons::Field::Word1 ? row.word1 : row.word2);
+        words.append(plain || drill_.rightWord == catalogue::Field::Word1 ? row.word1 : row.word2);
     }
     return words;
 }

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "lessons/drill_catalogue.h"
+#include "catalogue/drills.h"
 #include "platform/desktop/controls.h"
 #include "tests/support/desk.h"
 
@@ -37,7 +37,7 @@ class DrillDesk : public support::Desk {
     void setTip(const QString& text);
     void setRules(int count, int record);
 
-    const lessons::Drill& drill() const { return drill_; }
+    const catalogue::Drill& drill() const { return drill_; }
     int step() const { return session.recordNo; }
     /// Opens the screen; null when it failed.
     core::Screen* open();
@@ -74,7 +74,7 @@ class DrillDesk : public support::Desk {
     QStringList wrongBoxes();
 
    private:
-    const lessons::Drill& drill_;
+    const catalogue::Drill& drill_;
     std::vector<Row> rows_;
 };
 

@@ -1,10 +1,13 @@
 #include "lessons/drill_judge.h"
+#include "catalogue/drills.h"
 
 #include <gtest/gtest.h>
 
 #include <array>
 
 using namespace lessons;
+using catalogue::Drill;
+using catalogue::findDrill;
 
 namespace {
 

@@ -1,5 +1,6 @@
 // The ways out of a drill: from each of its states, and what each leaves open.
 
+#include "catalogue/drills.h"
 #include "lessons/drill_screen.h"
 #include "platform/desktop/timer.h"
 #include "tests/lessons/drill_desk.h"
@@ -17,7 +18,7 @@ namespace {
 /// A drill on any row of the catalogue that notes which sets stand open when a leaving routine is done.
 class Watched final : public lessons::DrillScreen {
    public:
-    Watched(core::Context& context, const lessons::Drill& drill, QStringList& leftOpen)
+    Watched(core::Context& context, const catalogue::Drill& drill, QStringList& leftOpen)
         : DrillScreen(context, drill), leftOpen_(leftOpen) {}
 
     QStringList openSets() const {

@@ -1,27 +1,29 @@
 // Steps whose content does not fit their screen.
 
+#include "catalogue/drills.h"
+#include "lessons/drill_layout.h"
 #include "tests/lessons/drill_desk.h"
 
 #include <gtest/gtest.h>
 
 using namespace lessons_test;
-using lessons::SetUse;
+using catalogue::SetUse;
 using support::courseStore;
 
 namespace {
 
-QString nameOf(const lessons::Drill& drill) {
+QString nameOf(const catalogue::Drill& drill) {
     return QString::fromUtf8(drill.name);
 }
 
 class EveryDrill : public ::testing::TestWithParam<std::string> {
    protected:
-    const lessons::Drill& drill_ = *lessons::findDrill(GetParam());
+    const catalogue::Drill& drill_ = *catalogue::findDrill(GetParam());
 };
 
 std::vector<std::string> drillNames() {
     std::vector<std::string> names;
-    for (const lessons::Drill& drill : lessons::drillCatalogue())
+    for (const catalogue::Drill& drill : catalogue::drillCatalogue())
         names.emplace_back(drill.name);
     return names;
 }
@@ -31,7 +33,7 @@ std::vector<std::string> drillNames() {
 TEST_P(EveryDrill, EndsTheRunWithStepTableAndCountsWhereItHasTooManyRows) {
     if (drill_.rows == SetUse::Absent)
         return;
-    const int room = lessons::boxTotal(*drill_.layout);
+    const int room = lessons::boxTotal(lessons::layoutOf(drill_.name));
     DrillDesk desk(nameOf(drill_), DrillDesk::plainRows(room + 1));
     EXPECT_EQ(desk.open(), nullptr);
     const QString said =

@@ -1,5 +1,6 @@
 // Whatever a learner does with mouse and keys, a drill goes on; a typed apostrophe alone may end the run.
 
+#include "catalogue/drills.h"
 #include "tests/lessons/drill_desk.h"
 
 #include <gtest/gtest.h>
@@ -81,7 +82,7 @@ class Learner {
 /// A drill stores full marks or nothing, tells nothing but its own messages, and lists no more than its
 /// boxes.
 void expectNothingButWhatADrillDoes(DrillDesk& desk) {
-    const lessons::Drill& drill = desk.drill();
+    const catalogue::Drill& drill = desk.drill();
     for (const QString& score :
          desk.rows(support::scoreStore, "Select recordno, printf('%g', s4) from score"))
         EXPECT_EQ(score, QStringLiteral("%1|100").arg(desk.step()));
@@ -104,7 +105,7 @@ class RandomEvents : public ::testing::TestWithParam<std::string> {};
 
 std::vector<std::string> drillNames() {
     std::vector<std::string> names;
-    for (const lessons::Drill& drill : lessons::drillCatalogue())
+    for (const catalogue::Drill& drill : catalogue::drillCatalogue())
         names.emplace_back(drill.name);
     return names;
 }

@@ -1,6 +1,7 @@
 // Tab and typing on every drill: the boxes' own neighbours are the check and Begin, and nothing typed presses
 // a button or picks from a list.
 
+#include "catalogue/drills.h"
 #include "tests/lessons/drill_desk.h"
 #include "tests/support/pressing.h"
 
@@ -17,7 +18,7 @@ class TabOrder : public ::testing::TestWithParam<std::string> {
 
 std::vector<std::string> drillNames() {
     std::vector<std::string> names;
-    for (const lessons::Drill& drill : lessons::drillCatalogue())
+    for (const catalogue::Drill& drill : catalogue::drillCatalogue())
         names.emplace_back(drill.name);
     return names;
 }

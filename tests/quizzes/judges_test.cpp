@@ -1,10 +1,15 @@
 #include "quizzes/judges.h"
+#include "catalogue/judging.h"
+#include "catalogue/quizzes.h"
 
 #include "tests/support/desk.h"
 
 #include <gtest/gtest.h>
 
 using namespace quizzes;
+using catalogue::buttonSet;
+using catalogue::Compare;
+using catalogue::sentenceFields;
 
 namespace {
 

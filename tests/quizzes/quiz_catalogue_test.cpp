@@ -1,12 +1,16 @@
-#include "quizzes/quiz_catalogue.h"
+#include "catalogue/quizzes.h"
 
-#include "course/dispatch.h"
+#include "catalogue/dispatch.h"
 #include "tests/quizzes/quiz_desk.h"
 
 #include <functional>
 #include <set>
 
-using namespace quizzes;
+using catalogue::Column;
+using catalogue::findQuiz;
+using catalogue::quizEntries;
+using catalogue::QuizEntry;
+using catalogue::Shape;
 
 namespace {
 
@@ -52,17 +56,17 @@ TEST(QuizCatalogue, HoldsTwelveScreensEachOnce) {
 }
 
 TEST(QuizCatalogue, HoldsEveryQuizThatTheDispatcherKnows) {
-    for (const course::DispatchRow& row : course::dispatchRows()) {
+    for (const catalogue::DispatchRow& row : catalogue::dispatchRows()) {
         const QString screen = QLatin1String(row.screen.data(), static_cast<qsizetype>(row.screen.size()));
         if (screen.startsWith(QStringLiteral("frmQuiz"))) {
-            EXPECT_NE(findQuiz(screen), nullptr) << screen.toStdString();
+            EXPECT_NE(findQuiz(screen.toStdString()), nullptr) << screen.toStdString();
         }
     }
 }
 
 TEST(QuizCatalogue, ANameThatDiffersInCaseSelectsNoScreen) {
-    EXPECT_EQ(findQuiz(QStringLiteral("frmquiz7")), nullptr);
-    EXPECT_EQ(findQuiz(QStringLiteral("FrmQuiz")), nullptr);
+    EXPECT_EQ(findQuiz("frmquiz7"), nullptr);
+    EXPECT_EQ(findQuiz("FrmQuiz"), nullptr);
     QuizDesk desk;
     desk.layStep(2, {fullQuestion()});
     desk.screens().open(QStringLiteral("frmquiz7"));

@@ -1,6 +1,6 @@
 // How each of the twelve screens ends: in an ordinary step, inside a Final Quiz, and under review.
 
-#include "quizzes/quiz_catalogue.h"
+#include "catalogue/quizzes.h"
 #include "tests/quizzes/quiz_desk.h"
 
 #include <array>
@@ -204,7 +204,7 @@ TEST(QuizEndsTogether, APassedTableMayBePassedAgainAndStores100Again) {
 }
 
 TEST(QuizEndsTogether, EveryScreenIsAmongThem) {
-    ASSERT_EQ(ends.size(), quizzes::quizEntries().size());
+    ASSERT_EQ(ends.size(), catalogue::quizEntries().size());
     for (std::size_t i = 0; i < ends.size(); ++i)
-        EXPECT_STREQ(ends[i].form, quizzes::quizEntries()[i].form);
+        EXPECT_STREQ(ends[i].form, catalogue::quizEntries()[i].form);
 }

@@ -1,6 +1,6 @@
 // What the one-question-at-a-time screens share, told by frmQuiz7, the plainest of them.
 
-#include "quizzes/quiz_catalogue.h"
+#include "catalogue/quizzes.h"
 #include "tests/quizzes/quiz_desk.h"
 
 using support::courseStore;
@@ -34,7 +34,7 @@ const QString endMessage =
 }  // namespace
 
 TEST(QuizEngine, AStepWithoutRowsStopsWithASentenceThatNamesIt) {
-    for (const quizzes::QuizEntry& entry : quizzes::quizEntries()) {
+    for (const catalogue::QuizEntry& entry : catalogue::quizEntries()) {
         QuizDesk desk;
         desk.layStep(17, {});
         EXPECT_EQ(desk.run(entry.form), nullptr);
@@ -59,7 +59,7 @@ TEST(QuizEngine, AMissingAnswerStopsTheScreenWithTheQuestionAndTheField) {
 }
 
 TEST(QuizEngine, AMissingAnswerEndsEveryScreenWithItsStepByTheCheckAtTheLatest) {
-    for (const quizzes::QuizEntry& entry : quizzes::quizEntries()) {
+    for (const catalogue::QuizEntry& entry : catalogue::quizEntries()) {
         QuizDesk desk;
         desk.layStep(17, {{{"q1", "Two words"},
                            {"q2", "a"},

@@ -1,7 +1,7 @@
 // Clicks, keys and moves without a plan on every quiz screen: nothing but the errors that the screens are
 // known for may come of them, and the stores stay whole.
 
-#include "quizzes/quiz_catalogue.h"
+#include "catalogue/quizzes.h"
 #include "tests/quizzes/quiz_desk.h"
 
 #include <QRandomGenerator>
@@ -139,7 +139,7 @@ void expectWholeStores(const QuizDesk& desk) {
 
 /// A table stores full marks or nothing, and one question at a time the share of its four.
 void expectLikelyScores(const QuizDesk& desk, const QString& form, bool final) {
-    const bool table = quizzes::findQuiz(form)->shape == quizzes::Shape::Table;
+    const bool table = catalogue::findQuiz(form.toStdString())->shape == catalogue::Shape::Table;
     EXPECT_LE(desk.scores().size(), 1);
     for (const QString& stored : desk.scores()) {
         bool whole = false;
@@ -216,17 +216,17 @@ class RandomEvents : public ::testing::TestWithParam<int> {};
 }  // namespace
 
 TEST_P(RandomEvents, LeaveTheQuizStandingAndTheStoresWhole) {
-    const quizzes::QuizEntry& entry = quizzes::quizEntries()[static_cast<std::size_t>(GetParam())];
+    const catalogue::QuizEntry& entry = catalogue::quizEntries()[static_cast<std::size_t>(GetParam())];
     for (const quint32 seed : {1U, 2U, 3U, 4U})
         runMonkey(QLatin1String(entry.form), seed, seed % 2 == 0);
 }
 
 INSTANTIATE_TEST_SUITE_P(EveryQuiz, RandomEvents, ::testing::Range(0, 12), [](const auto& one) {
-    return std::string(quizzes::quizEntries()[static_cast<std::size_t>(one.param)].form);
+    return std::string(catalogue::quizEntries()[static_cast<std::size_t>(one.param)].form);
 });
 
 TEST(RandomEventsEarly, BeforeTheFirstTickNothingIsAnswered) {
-    for (const quizzes::QuizEntry& entry : quizzes::quizEntries()) {
+    for (const catalogue::QuizEntry& entry : catalogue::quizEntries()) {
         QuizDesk desk;
         desk.layStep(250, oddQuestions);
         core::Screen* screen = nullptr;

@@ -1,6 +1,6 @@
 // Tab, typing and double clicks on every quiz screen.
 
-#include "quizzes/quiz_catalogue.h"
+#include "catalogue/quizzes.h"
 #include "tests/quizzes/quiz_desk.h"
 #include "tests/support/pressing.h"
 
@@ -22,7 +22,7 @@ std::vector<QuizDesk::Question> questions(int count) {
 
 class QuizTabs : public ::testing::TestWithParam<int> {
    protected:
-    const quizzes::QuizEntry& entry = quizzes::quizEntries()[static_cast<std::size_t>(GetParam())];
+    const catalogue::QuizEntry& entry = catalogue::quizEntries()[static_cast<std::size_t>(GetParam())];
     QuizDesk desk;
     core::Screen* screen = nullptr;
     void SetUp() override {
@@ -54,7 +54,7 @@ TEST_P(QuizTabs, TypingOnFromTheLastBoxPressesNothing) {
 }
 
 INSTANTIATE_TEST_SUITE_P(EveryQuiz, QuizTabs, ::testing::Range(0, 12), [](const auto& one) {
-    return std::string(quizzes::quizEntries()[static_cast<std::size_t>(one.param)].form);
+    return std::string(catalogue::quizEntries()[static_cast<std::size_t>(one.param)].form);
 });
 
 namespace {

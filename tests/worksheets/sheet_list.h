@@ -1,18 +1,18 @@
 #pragma once
 
-#include "worksheets/sheet_tables.h"
+#include "catalogue/sheets.h"
 
 #include <array>
 
 /// What every number of the course is printed with, written out one by one.
 struct Sheet {
     int recordNo;
-    worksheets::Builder builder;
+    catalogue::Builder builder;
     const char* file;  // empty where no template is set
     const char* teacherFile;
 };
 
-using worksheets::Builder;
+using catalogue::Builder;
 
 // clang-format off
 inline constexpr std::array sheetList{

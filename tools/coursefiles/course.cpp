@@ -1,5 +1,7 @@
 #include "tools/coursefiles/course.h"
 
+#include "catalogue/steps.h"
+
 #include <algorithm>
 
 namespace tools::check {
@@ -212,11 +214,8 @@ std::vector<const Step*> Course::drawnBy(const Step& final) const {
             if (const Step* drawnStep = step(record))
                 drawn.push_back(drawnStep);
     };
-    // The two Finals of the first unit know their ranges by number.
-    if (final.record == 14)
-        takeRange(2, 13);
-    else if (final.record == 20)
-        takeRange(16, 19);
+    if (const auto range = catalogue::drawnRange(final.record.value_or(0)))
+        takeRange(range->first, range->last);
     else
         for (const Step* other : unit(final.topic))
             if (other->type.compare(QStringLiteral("Quiz"), Qt::CaseInsensitive) == 0)

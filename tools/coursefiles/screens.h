@@ -3,16 +3,16 @@
 #include <QString>
 
 #include <span>
-#include <string_view>
+#include <string>
 
-/// What each screen demands of the rows of its step, as tables.
+/// What each screen demands of the rows of its step, as the catalogue has it.
 namespace tools::check {
 
 enum class Need { None, Wanted, Demanded };
 
 /// A drill's demands. A step of `frmLesson2` has a second page, whose rows stand under a number of their own.
 struct DrillShape {
-    std::string_view form;
+    std::string form;
     int least = 0;
     int boxes = 0;
     int lines = 0;  // room for rule lines
@@ -31,25 +31,20 @@ const DrillShape* findDrillShape(const QString& form);
 /// The drill of a step, as its rows and rule lines show it: the cloze where step 21 has a video step's name.
 const DrillShape* drillOfStep(const QString& form, int record);
 
-inline constexpr int secondPageRecord = 16;
-inline constexpr int clozeRecord = 21;
-
 /// A quiz screen's demands.
 struct QuizShape {
-    std::string_view form;
-    bool table = false;           // all questions at once, so at most 15
-    std::string_view shown;       // the digits of the fields q1 to q7 that the screen shows
-    std::string_view choices;     // the digits of those that are choices
-    std::string_view secondPair;  // the same for the second pair of choices
-    bool secondAnswer = false;    // `a2` is asked as well
-    bool exact = false;           // choices are compared with the answer to the letter
+    std::string form;
+    bool table = false;         // all questions at once, so at most 15
+    std::string shown;          // the digits of the fields q1 to q7 that the screen shows
+    std::string choices;        // the digits of those that are choices
+    std::string secondPair;     // the same for the second pair of choices
+    bool secondAnswer = false;  // `a2` is asked as well
+    bool exact = false;         // choices are compared with the answer to the letter
     int questionColumns = 0;
     int choiceColumns = 0;
     int answerColumns = 0;
     bool gap = false;  // the sentence has a gap "____"
 };
-
-inline constexpr int tableQuizRows = 15;
 
 std::span<const QuizShape> quizShapes();
 const QuizShape* findQuizShape(const QString& form);
@@ -65,22 +60,7 @@ int wrongWordField(int record);
 /// Whether frmQuiz8 takes `a2` as a second right answer at a step.
 bool takesSecondChoice(int record);
 
-/// What a step's worksheet prints from.
-enum class Sheet {
-    None,
-    Refused,
-    Questions,
-    TwoUp,
-    Columns,
-    WithSecondLine,
-    Swapped,
-    WordBank,
-    Brackets,
-    DrillTwoUp,
-    Sentences,
-    Final,
-    FinalOfFirstUnit
-};
-Sheet sheetOf(int record);
+/// Whether a step has a worksheet of its own: it is not refused, and a template stands under its number.
+bool hasSheet(int record);
 
 }  // namespace tools::check

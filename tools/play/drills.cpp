@@ -1,5 +1,6 @@
 // Players of the drills: Begin, every box typed, the check.
 
+#include "catalogue/steps.h"
 #include "tools/coursefiles/screens.h"
 #include "tools/play/players.h"
 
@@ -13,9 +14,9 @@ using platform::TextBox;
 
 int contentRecord(const Stage& stage) {
     if (stage.topName() == QStringLiteral("frmLesson2_2"))
-        return check::secondPageRecord;
+        return catalogue::secondPageRows;
     if (stage.topName() == QStringLiteral("frmLesson3_2"))
-        return check::clozeRecord;
+        return catalogue::clozeStep;
     return stage.session().recordNo;
 }
 

@@ -1,5 +1,6 @@
 // Quizzes that are answered by a click on one of several choices.
 
+#include "catalogue/sheets.h"
 #include "tools/rules/quiz_visit.h"
 
 #include <QStringList>
@@ -140,7 +141,8 @@ void articleBefore(const Course& course, Findings& findings) {
 
 void sheetChoices(const Course& course, Findings& findings) {
     eachQuestion(course, {"frmQuiz8"}, [&](const Step& step, const Question& question) {
-        if (sheetOf(step.record.value_or(0)) == Sheet::Brackets && folded(question.q[4]).isEmpty())
+        if (catalogue::builderOf(step.record.value_or(0)) == catalogue::Builder::Brackets &&
+            folded(question.q[4]).isEmpty())
             findings.add(question.at("q4"),
                          QStringLiteral("the worksheet prints three choices, the third of them empty"),
                          QStringLiteral("a third choice"));

@@ -1,5 +1,6 @@
 // What a learner has to type into the boxes of a drill.
 
+#include "catalogue/steps.h"
 #include "tools/coursefiles/screens.h"
 #include "tools/rules/check.h"
 
@@ -27,7 +28,7 @@ void eachAnswer(const Course& course, Visit visit) {
             continue;
         page(*shape, *step.record);
         if (step.form == QStringLiteral("frmLesson2"))
-            page(*findDrillShape(QStringLiteral("frmLesson2_2")), secondPageRecord);
+            page(*findDrillShape(QStringLiteral("frmLesson2_2")), catalogue::secondPageRows);
     }
 }
 

@@ -1,5 +1,6 @@
 // A drill has a fixed number of boxes; its rows, prompts and fields must be what the screen expects.
 
+#include "catalogue/steps.h"
 #include "tools/coursefiles/screens.h"
 #include "tools/rules/check.h"
 
@@ -22,7 +23,8 @@ void eachDrill(const Course& course, Visit visit) {
             continue;
         visit(step, *shape, course.of(step.record).drill);
         if (step.form == QStringLiteral("frmLesson2"))
-            visit(step, *findDrillShape(QStringLiteral("frmLesson2_2")), course.of(secondPageRecord).drill);
+            visit(step, *findDrillShape(QStringLiteral("frmLesson2_2")),
+                  course.of(catalogue::secondPageRows).drill);
     }
 }
 
@@ -78,8 +80,9 @@ void drillPrompt(const Course& course, Findings& findings) {
 void drillRowsUnread(const Course& course, Findings& findings) {
     for (const Step& step : course.steps) {
         const Content& content = course.of(step.record);
-        const bool secondPage = step.record == secondPageRecord && course.step(15) != nullptr &&
-                                course.step(15)->form == QStringLiteral("frmLesson2");
+        const bool secondPage = step.record == catalogue::secondPageRows &&
+                                course.step(catalogue::doubleStep) != nullptr &&
+                                course.step(catalogue::doubleStep)->form == QStringLiteral("frmLesson2");
         if (!content.drill.empty() && !secondPage &&
             drillOfStep(step.form, step.record.value_or(0)) == nullptr)
             findings.add(

@@ -1,5 +1,7 @@
 // A Final draws questions from the quizzes of its unit, and some Finals print from a list of ranges.
 
+#include "catalogue/sheets.h"
+#include "core/session.h"
 #include "tools/rules/quiz_visit.h"
 
 #include <QHash>
@@ -10,7 +12,7 @@ namespace tools::check {
 
 namespace {
 
-constexpr int finalSteps = 20;
+constexpr int finalSteps = core::finalStepLimit;
 
 template <typename Visit>
 void eachFinal(const Course& course, Visit visit) {
@@ -77,7 +79,7 @@ std::map<int, Printed> printedFinals(const Course& course) {
     for (const FinalRange& range : course.finals)
         finals[range.topic.value_or(0)].ranges.push_back(&range);
     for (const Step& step : course.steps)
-        if (step.topic && sheetOf(step.record.value_or(0)) == Sheet::Final)
+        if (step.topic && catalogue::builderOf(step.record.value_or(0)) == catalogue::Builder::Final)
             finals[*step.topic].final = &step;
     return finals;
 }
@@ -126,12 +128,9 @@ void rangeCover(const Course& course, Findings& findings) {
     }
 }
 
-// Ranges that begin here print a second line for each question.
-constexpr std::array secondLineStarts{121, 134, 165, 208};
-
 void rangeStart(const Course& course, Findings& findings) {
     for (const FinalRange& range : course.finals)
-        for (const int start : secondLineStarts)
+        for (const int start : catalogue::secondLineStarts())
             if (range.record && range.last && *range.record < start && start <= *range.last &&
                 course.step(start) != nullptr)
                 findings.add(

@@ -1,5 +1,6 @@
 // Rule lines beside a drill: as many as the screen has labels, each as long as a label.
 
+#include "catalogue/steps.h"
 #include "tools/coursefiles/screens.h"
 #include "tools/rules/check.h"
 
@@ -21,7 +22,8 @@ void eachPage(const Course& course, Visit visit) {
             continue;
         visit(step, *shape, course.of(step.record).lines);
         if (step.form == QStringLiteral("frmLesson2"))
-            visit(step, *findDrillShape(QStringLiteral("frmLesson2_2")), course.of(secondPageRecord).lines);
+            visit(step, *findDrillShape(QStringLiteral("frmLesson2_2")),
+                  course.of(catalogue::secondPageRows).lines);
     }
 }
 
@@ -84,8 +86,9 @@ void unread(const Course& course, Findings& findings) {
     for (const Step& step : course.steps) {
         const auto& lines = course.of(step.record).lines;
         const DrillShape* shape = drillOfStep(step.form, step.record.value_or(0));
-        const bool secondPage = step.record == secondPageRecord && course.step(15) != nullptr &&
-                                course.step(15)->form == QStringLiteral("frmLesson2");
+        const bool secondPage = step.record == catalogue::secondPageRows &&
+                                course.step(catalogue::doubleStep) != nullptr &&
+                                course.step(catalogue::doubleStep)->form == QStringLiteral("frmLesson2");
         // One screen opens its lines without showing them.
         const bool shown = shape != nullptr && (shape->lines > 0 || shape->form == "frmLesson24");
         if (!lines.empty() && !shown && !secondPage)

@@ -1,5 +1,6 @@
 // Quizzes that are answered from one pool of all the step's answers.
 
+#include "catalogue/sheets.h"
 #include "tools/rules/quiz_visit.h"
 
 #include <QHash>
@@ -53,7 +54,7 @@ void lookAlike(const Course& course, Findings& findings) {
 
 void bankApostrophe(const Course& course, Findings& findings) {
     eachQuiz(course, [&](const Step& step, const QuizShape&, const std::vector<const Question*>& questions) {
-        if (sheetOf(step.record.value_or(0)) != Sheet::WordBank)
+        if (catalogue::builderOf(step.record.value_or(0)) != catalogue::Builder::WordBank)
             return;
         for (const Question* question : questions)
             if (question->a1.contains(u'\''))
@@ -66,7 +67,7 @@ void bankApostrophe(const Course& course, Findings& findings) {
 
 void bankSize(const Course& course, Findings& findings) {
     eachQuiz(course, [&](const Step& step, const QuizShape&, const std::vector<const Question*>& questions) {
-        if (sheetOf(step.record.value_or(0)) != Sheet::WordBank)
+        if (catalogue::builderOf(step.record.value_or(0)) != catalogue::Builder::WordBank)
             return;
         QSet<QString> bank;
         for (const Question* question : questions)

@@ -1,5 +1,6 @@
 // What all quiz screens ask of their questions.
 
+#include "catalogue/quizzes.h"
 #include "tools/rules/quiz_visit.h"
 
 namespace tools::check {
@@ -19,19 +20,19 @@ void quizEmpty(const Course& course, Findings& findings) {
 void quizRoom(const Course& course, Findings& findings) {
     eachQuiz(
         course, [&](const Step& step, const QuizShape& shape, const std::vector<const Question*>& questions) {
-            if (shape.table && questions.size() > tableQuizRows)
-                findings.add(questions[tableQuizRows]->at("recordno"),
+            if (shape.table && questions.size() > catalogue::tableRows)
+                findings.add(questions[catalogue::tableRows]->at("recordno"),
                              QStringLiteral("%1 has %2 questions, and %3 has 15 lines and ends the program")
                                  .arg(step.called())
                                  .arg(questions.size())
                                  .arg(nameOf(shape)),
-                             QStringLiteral("at most %1 questions").arg(tableQuizRows));
+                             QStringLiteral("at most %1 questions").arg(catalogue::tableRows));
         });
 }
 
 void quizSize(const Course& course, Findings& findings) {
     eachQuiz(course, [&](const Step& step, const QuizShape&, const std::vector<const Question*>& questions) {
-        if (!questions.empty() && (questions.size() < 8 || questions.size() > tableQuizRows))
+        if (!questions.empty() && (questions.size() < 8 || questions.size() > catalogue::tableRows))
             findings.add(questions.front()->at("recordno"),
                          QStringLiteral("%1 has %2 questions").arg(step.called()).arg(questions.size()),
                          QStringLiteral("8 to 15: enough to tell whether the point was understood"));

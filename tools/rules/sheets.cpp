@@ -1,5 +1,6 @@
 // Worksheets are built by step number from the rows of the step.
 
+#include "catalogue/sheets.h"
 #include "tools/rules/quiz_visit.h"
 
 namespace tools::check {
@@ -8,7 +9,7 @@ namespace {
 
 void refusedSteps(const Course& course, Findings& findings) {
     for (const Step& step : course.steps) {
-        const bool refused = sheetOf(step.record.value_or(0)) == Sheet::Refused;
+        const bool refused = catalogue::isRefused(step.record.value_or(0));
         if (refused != (step.use == QStringLiteral("NO")))
             findings.add(step.at("usedata"),
                          refused
@@ -21,7 +22,8 @@ void refusedSteps(const Course& course, Findings& findings) {
 
 void unknownStep(const Course& course, Findings& findings) {
     for (const Step& step : course.steps)
-        if (sheetOf(step.record.value_or(0)) == Sheet::None && step.use != QStringLiteral("NO"))
+        if (!catalogue::isRefused(step.record.value_or(0)) && !hasSheet(step.record.value_or(0)) &&
+            step.use != QStringLiteral("NO"))
             findings.add(step.at("recordno"),
                          QStringLiteral("no worksheet is made for %1; a click prints the one before")
                              .arg(step.called()),
@@ -30,7 +32,8 @@ void unknownStep(const Course& course, Findings& findings) {
 
 void sentenceRows(const Course& course, Findings& findings) {
     for (const Step& step : course.steps)
-        if (sheetOf(step.record.value_or(0)) == Sheet::Sentences && course.of(step.record).sheet.empty())
+        if (catalogue::builderOf(step.record.value_or(0)) == catalogue::Builder::SentenceMasks &&
+            course.of(step.record).sheet.empty())
             findings.add(step.at("recordno"),
                          QStringLiteral("the worksheet of %1 prints no sentence").arg(step.called()),
                          QStringLiteral("rows in basic_data3"));
@@ -39,7 +42,8 @@ void sentenceRows(const Course& course, Findings& findings) {
 void sentenceRowsUnread(const Course& course, Findings& findings) {
     for (const Step& step : course.steps)
         if (const auto& rows = course.of(step.record).sheet;
-            !rows.empty() && sheetOf(step.record.value_or(0)) != Sheet::Sentences)
+            !rows.empty() &&
+            catalogue::builderOf(step.record.value_or(0)) != catalogue::Builder::SentenceMasks)
             findings.add(rows.front()->at("recordno"),
                          QStringLiteral("no worksheet of %1 prints these rows").arg(step.called()),
                          QStringLiteral("step 15, 21 or 45"));
@@ -63,7 +67,7 @@ void sentenceFields(const Course& course, Findings& findings) {
 
 void secondLine(const Course& course, Findings& findings) {
     eachQuiz(course, [&](const Step& step, const QuizShape&, const std::vector<const Question*>& questions) {
-        if (sheetOf(step.record.value_or(0)) != Sheet::WithSecondLine)
+        if (catalogue::builderOf(step.record.value_or(0)) != catalogue::Builder::TwoColumns)
             return;
         for (const Question* question : questions)
             if (folded(question->q[2]).isEmpty())
@@ -77,9 +81,9 @@ void secondLine(const Course& course, Findings& findings) {
 void secondLineIsChoice(const Course& course, Findings& findings) {
     eachQuiz(
         course, [&](const Step& step, const QuizShape& shape, const std::vector<const Question*>& questions) {
-            const Sheet sheet = sheetOf(step.record.value_or(0));
-            if ((sheet != Sheet::WithSecondLine && sheet != Sheet::Swapped) || shape.choices.empty() ||
-                questions.empty())
+            const catalogue::Builder sheet = catalogue::builderOf(step.record.value_or(0));
+            if ((sheet != catalogue::Builder::TwoColumns && sheet != catalogue::Builder::SwappedColumns) ||
+                shape.choices.empty() || questions.empty())
                 return;
             findings.add(
                 questions.front()->at("q2"),

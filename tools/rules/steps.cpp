@@ -1,6 +1,7 @@
 // The spine of the course: units, steps, and the screens that steps name.
 
-#include "course/dispatch.h"
+#include "catalogue/steps.h"
+#include "catalogue/dispatch.h"
 #include "tools/rules/check.h"
 
 #include <algorithm>
@@ -151,7 +152,7 @@ void stepType(const Course& course, Findings& findings) {
 
 void stepScreen(const Course& course, Findings& findings) {
     for (const Step& step : course.steps)
-        if (course::findDispatch(step.form) == nullptr)
+        if (catalogue::findDispatch(step.form.toStdString()) == nullptr)
             findings.add(step.at("useform"), QStringLiteral("'%1' brings up no screen").arg(step.form),
                          QStringLiteral("the name of a drill or quiz screen to the letter, such as frmQuiz"));
 }
@@ -172,8 +173,9 @@ struct FixedPlace {
     const char* form;
     int record;
 };
-constexpr std::array fixedPlaces{FixedPlace{"frmLesson2", 15}, FixedPlace{"frmLesson3_2", 21},
-                                 FixedPlace{"frmLesson11", 115}};
+constexpr std::array fixedPlaces{FixedPlace{"frmLesson2", catalogue::doubleStep},
+                                 FixedPlace{"frmLesson3_2", catalogue::clozeStep},
+                                 FixedPlace{"frmLesson11", catalogue::secondListStep}};
 
 void screenPlace(const Course& course, Findings& findings) {
     for (const Step& step : course.steps)

@@ -1,5 +1,6 @@
 // Rows must belong to a step, and lie under the unit that the step lies under: screens ask for both numbers.
 
+#include "catalogue/steps.h"
 #include "tools/rules/check.h"
 
 #include <algorithm>
@@ -11,8 +12,8 @@ namespace {
 /// The step whose screen reads the rows of a number. The second page of step 15 reads those of 16.
 const Step* reader(const Course& course, Number record) {
     const Step* step = course.step(record);
-    if (record == 16)
-        if (const Step* first = course.step(15);
+    if (record == catalogue::secondPageRows)
+        if (const Step* first = course.step(catalogue::doubleStep);
             first != nullptr && first->form == QStringLiteral("frmLesson2"))
             return step != nullptr && !step->isQuiz() ? step : first;
     return step;

@@ -1,6 +1,6 @@
 // Tips explain a unit, and the number of a tip is the number of the video that its step opens with.
 
-#include "course/dispatch.h"
+#include "catalogue/dispatch.h"
 #include "tools/coursefiles/screens.h"
 #include "tools/rules/check.h"
 
@@ -13,8 +13,8 @@ namespace tools::check {
 namespace {
 
 bool runsVideo(const Step& step) {
-    const course::DispatchRow* row = course::findDispatch(step.form);
-    return row != nullptr && course::runsVideoFirst(*row, step.record.value_or(0));
+    const catalogue::DispatchRow* row = catalogue::findDispatch(step.form.toStdString());
+    return row != nullptr && catalogue::runsVideoFirst(*row, step.record.value_or(0));
 }
 
 void tipMissing(const Course& course, Findings& findings) {

@@ -1,5 +1,6 @@
 // Quizzes that are answered by typing words or whole sentences.
 
+#include "catalogue/judging.h"
 #include "tools/rules/quiz_visit.h"
 
 #include <QRegularExpression>
@@ -72,12 +73,14 @@ void givenAway(const Course& course, Findings& findings) {
     });
 }
 
+/// Whether both labels of the sentence quiz take a field of the row on a step.
 bool showsTwoLines(int record) {
-    return (record >= 121 && record <= 123) || (record >= 134 && record <= 136);
+    const catalogue::SentenceFields fields = catalogue::sentenceFields(record);
+    return fields.word != nullptr && fields.korean != nullptr;
 }
 
 bool showsKoreanLine(int record) {
-    return (record >= 128 && record <= 131) || (record >= 147 && record <= 149);
+    return catalogue::sentenceFields(record).word == nullptr;
 }
 
 void sentenceLines(const Course& course, Findings& findings) {

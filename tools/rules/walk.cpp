@@ -1,6 +1,6 @@
 // The walk goes from number to number by rules of its own; the rows must be where it looks.
 
-#include "course/walk.h"
+#include "catalogue/steps.h"
 #include "tools/rules/check.h"
 
 #include <algorithm>
@@ -21,7 +21,7 @@ void walkHole(const Course& course, Findings& findings) {
     for (const Step& step : course.steps) {
         if (!step.record || *step.record >= last)
             continue;
-        const int wanted = course::nextRecord(*step.record).preliminary;
+        const int wanted = catalogue::nextRecord(*step.record).preliminary;
         if (course.step(wanted) == nullptr)
             findings.add(
                 step.at("recordno"),
@@ -37,7 +37,7 @@ void walkBack(const Course& course, Findings& findings) {
     for (const Step& step : course.steps) {
         if (!step.record || *step.record >= last)
             continue;
-        const course::NextRecord next = course::nextRecord(*step.record);
+        const catalogue::NextRecord next = catalogue::nextRecord(*step.record);
         if (next.taken != next.preliminary && course.step(next.taken) == nullptr)
             findings.add(
                 step.at("recordno"),
@@ -52,7 +52,7 @@ void walkSkipped(const Course& course, Findings& findings) {
     for (const Step& step : course.steps) {
         // A skip begins at a number below this one and ends above it.
         for (int from = step.record.value_or(0) - 3; from < step.record.value_or(0); ++from)
-            if (course::nextRecord(from).preliminary > *step.record)
+            if (catalogue::nextRecord(from).preliminary > *step.record)
                 findings.add(step.at("recordno"),
                              QStringLiteral("the walk steps over %1; only the course table reaches it")
                                  .arg(step.called()),

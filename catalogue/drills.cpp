@@ -1,9 +1,11 @@
-#include "lessons/drill_catalogue.h"
+#include "catalogue/drills.h"
+
+#include "catalogue/steps.h"
 
 #include <algorithm>
 #include <array>
 
-namespace lessons {
+namespace catalogue {
 
 namespace {
 
@@ -19,10 +21,6 @@ constexpr std::array persons{
     "who",  "who",         "Mr. Kim",     "Mr. Kim",     "Mr. Kim",      "Jane",         "Jane",
     "Jane", "Tom and Sue", "Tom and Sue", "Tom and Sue", "you and Jane", "you and Jane", "you and Jane"};
 
-constexpr Tops lowerTops(int quiz) {
-    return {.quiz = quiz, .begin = quiz, .next = 496, .pre = 600};
-}
-
 constexpr ClosedSets allButBlanks{.blanks = false};
 constexpr ClosedSets allButTip{.tip = false};
 constexpr ClosedSets rowsAndBlanks{.tip = false, .rules = false};
@@ -32,7 +30,6 @@ constexpr std::array drills{
     Drill{
         .name = "frmLesson",
         .headline = "◈ 셀 수 있는 명사의 복수형 만들기",
-        .layout = &layouts::plurals,
         .boxes = 28,
         .ruleLines = 8,
         .prompts = 28,
@@ -41,10 +38,8 @@ constexpr std::array drills{
         .name = "frmLesson2",
         .flow = Flow::Set,
         .picture = "Main2.jpg",
-        .tops = lowerTops(368),
         .headline = "◈ 셀 수 없는 명사의 종류",
         .instruction = wordInstruction,
-        .layout = &layouts::uncountables,
         .boxColour = BoxColour::White,
         .boxes = 28,
         .ruleLines = 7,
@@ -65,16 +60,14 @@ constexpr std::array drills{
         .name = "frmLesson2_2",
         .flow = Flow::Set,
         .picture = "original.jpg",
-        .tops = lowerTops(368),
         .preCaption = "Pre Lesson",
         .headline = "◈ 셀 수 없는 명사 세는 법",
         .instruction = wordInstruction,
-        .layout = &layouts::measures,
         .boxColour = BoxColour::White,
         .boxes = 23,
         .ruleLines = 13,
         .promptSource = Prompts::None,
-        .contentRecord = 16,
+        .contentRecord = secondPageRows,
         .tip = SetUse::Absent,
         .shown = Field::Word1,
         .firstHintFromOrder = always,
@@ -94,7 +87,6 @@ constexpr std::array drills{
         .picture = "Original2.jpg",
         .answerName = "lblQuiz",
         .instruction = "",
-        .layout = &layouts::reading,
         .hasBegin = false,
         .promptSource = Prompts::None,
         .tip = SetUse::Guarded,
@@ -115,12 +107,11 @@ constexpr std::array drills{
         .headline = "◈ 정관사 (the)를 반드시 붙이는 경우",
         .instruction = wordInstruction,
         .instructionName = "Label2",
-        .layout = &layouts::articles,
         .boxColour = BoxColour::White,
         .boxes = 27,
         .ruleLines = 8,
         .promptSource = Prompts::None,
-        .contentRecord = 21,
+        .contentRecord = clozeStep,
         .tip = SetUse::Opened,
         .shown = Field::Word1,
         .clearsWord3 = false,
@@ -133,12 +124,10 @@ constexpr std::array drills{
     },
     Drill{
         .name = "frmLesson4",
-        .tops = lowerTops(368),
         .answerCaption = "Quiz",
         .headline = "◈ 인칭대명사의 격변화",
         .instruction = wordInstruction,
         .instructionName = "lblInstruction",
-        .layout = &layouts::pronouns,
         .boxColour = BoxColour::White,
         .boxes = 35,
         .ruleLines = 9,
@@ -156,12 +145,10 @@ constexpr std::array drills{
     Drill{
         .name = "frmLesson7",
         .picture = "Main2.jpg",
-        .tops = lowerTops(384),
         .headline = "◈ 일반동사의 3인칭 단수형",
         .instruction = "<Begin>를 클릭하여 동사의 3인칭 단수형을 입력하십시오. 자판의 <Enter> 키를 치면 다음 "
                        "단어를 입력할 수 있습니다.  "
                        "전체 단어를 입력한 후에는 <Answer>을 클릭하십시오",
-        .layout = &layouts::thirdPerson,
         .boxes = 21,
         .ruleLines = 6,
         .prompts = 21,
@@ -172,7 +159,6 @@ constexpr std::array drills{
         .instruction = "<Begin>를 클릭하여 단어의 ~ING형을 입력하십시오. 자판의 <Enter> 키를 치면 다음 "
                        "단어를 입력할 수 있습니다.  전체 "
                        "단어를 입력한 후에는 <Answer>을 클릭하십시오",
-        .layout = &layouts::ingForms,
         .boxes = 28,
         .ruleLines = 5,
         .prompts = 13,
@@ -185,9 +171,7 @@ constexpr std::array drills{
     Drill{
         .name = "frmLesson9",
         .picture = "Main2.jpg",
-        .tops = lowerTops(376),
         .headline = "◈ 형용사의 종류",
-        .layout = &layouts::adjectives,
         .boxColour = BoxColour::White,
         .boxes = 45,
         .ruleLines = 4,
@@ -206,7 +190,6 @@ constexpr std::array drills{
         .instruction = "<Begin>를 클릭하어 단어를 입력하십시오. <Enter> 키를 치면 다음 단어를 입력할 수 "
                        "있습니다.  입력한 후에는 <Answer>을 "
                        "클릭하십시오",
-        .layout = &layouts::adverbs,
         .boxColour = BoxColour::White,
         .boxes = 16,
         .ruleLines = 4,
@@ -222,11 +205,9 @@ constexpr std::array drills{
     Drill{
         .name = "frmLesson11",
         .picture = "Main2.jpg",
-        .tops = {.begin = 336},
         .answerCaption = "Anaswer",
         .headline = "◈ 비교급 만들기",
         .instruction = wordInstruction,
-        .layout = &layouts::comparison,
         .boxColour = BoxColour::OrangeThenCyan,
         .boxes = 26,
         .ruleLines = 6,
@@ -243,9 +224,8 @@ constexpr std::array drills{
         .flow = Flow::AnswerList,
         .headline = "◈ 전치사",
         .instruction = "<Begin>를 클릭합니다.   빈칸에 답을 입력하거나 ",
-        .layout = &layouts::prepositions,
         .boxColour = BoxColour::White,
-        .boxText = platform::TextRole::DrillPhrase,
+        .takesPhrases = true,
         .boxes = 30,
         .ruleLines = 3,
         .prompts = 30,
@@ -258,7 +238,6 @@ constexpr std::array drills{
         .name = "frmLesson18",
         .headline = "◈ 규칙 변화 동사의 과거형",
         .instruction = wordInstruction,
-        .layout = &layouts::regularPast,
         .boxes = 12,
         .ruleLines = 4,
         .prompts = 12,
@@ -272,7 +251,6 @@ constexpr std::array drills{
         .picture = "original.jpg",
         .headline = "◈ 불규칙 동사",
         .instruction = wordInstruction,
-        .layout = &layouts::irregularPast,
         .boxes = 16,
         .prompts = 16,
         .tip = SetUse::Absent,
@@ -290,7 +268,6 @@ constexpr std::array drills{
         .name = "frmLesson24",
         .headline = "◈ 기수",
         .instruction = wordInstruction,
-        .layout = &layouts::numbers,
         .boxes = 54,
         .prompts = 54,
         .rules = SetUse::Opened,
@@ -311,4 +288,4 @@ const Drill* findDrill(std::string_view name) {
     return row == drills.end() ? nullptr : &*row;
 }
 
-}  // namespace lessons
+}  // namespace catalogue

@@ -1,15 +1,12 @@
 #pragma once
 
-#include <QString>
-
-#include <optional>
 #include <span>
 #include <string_view>
 
-namespace course {
+namespace catalogue {
 
 /// Whether a step's video runs before its screen.
-enum class Video { None, First, FirstAtStep183 };
+enum class Video { None, First, FirstAtVideoStep };
 
 /// What a name in `useform` stands for. The screen is empty where the video is all there is.
 struct DispatchRow {
@@ -22,9 +19,9 @@ struct DispatchRow {
 std::span<const DispatchRow> dispatchRows();
 
 /// The row of a name, compared to the letter.
-const DispatchRow* findDispatch(const QString& useForm);
+const DispatchRow* findDispatch(std::string_view useForm);
 
 /// Whether the row's video runs first on the step.
 bool runsVideoFirst(const DispatchRow& row, int recordNo);
 
-}  // namespace course
+}  // namespace catalogue

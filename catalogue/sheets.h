@@ -4,7 +4,7 @@
 #include <span>
 #include <string_view>
 
-namespace worksheets {
+namespace catalogue {
 
 /// How a lesson's content is laid into the report tables.
 enum class Builder {
@@ -29,6 +29,10 @@ Builder builderOf(int recordNo);
 std::span<const int> refusedSteps();
 bool isRefused(int recordNo);
 
+/// Whether the printed Final shows a second line for the questions of a range that begins at a step.
+std::span<const int> secondLineStarts();
+bool hasSecondLine(int firstStep);
+
 /// A template and its twin for the teacher, with the tables that are opened before it runs.
 struct SheetTemplate {
     int first;
@@ -44,4 +48,4 @@ const SheetTemplate* templateOf(int recordNo);
 /// Every row, in the order in which they are checked.
 std::span<const SheetTemplate> sheetTemplates();
 
-}  // namespace worksheets
+}  // namespace catalogue

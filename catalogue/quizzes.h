@@ -1,13 +1,12 @@
 #pragma once
 
-#include "platform/desktop/message_box.h"
-
-#include <QString>
+#include "catalogue/step_range.h"
 
 #include <array>
 #include <span>
+#include <string_view>
 
-namespace quizzes {
+namespace catalogue {
 
 /// All rows of the step at once, judged by one press; or one question after the other.
 enum class Shape { Table, OneAtATime };
@@ -25,10 +24,6 @@ struct ShownField {
     const char* control;
     const char* field;
     Look look;
-    int left;
-    int top;
-    int width;
-    int height;
     bool hidesWhenEmpty = false;
 };
 
@@ -45,8 +40,6 @@ struct Column {
     const char* stored = nullptr;
     /// The working table that lists the wrong boxes.
     const char* wrongList = nullptr;
-    int left = 0;
-    int width = 0;
 };
 
 /// The acts that close a quiz in an ordinary step; their order differs from screen to screen.
@@ -92,13 +85,14 @@ enum class TeacherHelp { None, FillsAnswer, PassesByQuiz };
 
 struct FinalMessage {
     bool tellsScore;
-    platform::BoxIcon icon;
+    bool hasIcon;
 };
 
-struct RecordRange {
-    int first = 0;
-    int last = -1;
-    constexpr bool holds(int recordNo) const { return recordNo >= first && recordNo <= last; }
+/// Columns of text, a Korean letter counting two, that the question, a choice and an answer have room for.
+struct TextRoom {
+    int question = 0;
+    int choice = 0;
+    int answer = 0;
 };
 
 /// Everything that tells one quiz screen from another.
@@ -110,7 +104,7 @@ struct QuizEntry {
     /// The fields judged against, in the order of the answers; on a table the columns tell them.
     std::array<const char*, 2> judged{"a1", nullptr};
     /// Steps on which the second field is as good an answer as the first.
-    RecordRange eitherAnswer{};
+    StepRange eitherAnswer{};
     std::span<const ShownField> shown{};
     std::span<const Column> columns{};
     /// Caption of `picQuiz`; null on a screen without it.
@@ -128,17 +122,23 @@ struct QuizEntry {
     /// The end of a quiz, or the check by `picQuiz` on a table; and the check by Enter where that differs.
     CheckManner check;
     const CheckManner* enterCheck = nullptr;
-    FinalMessage finalMessage{true, platform::BoxIcon::Information};
+    FinalMessage finalMessage{true, true};
     /// Whether a choice turns red under the mouse.
     bool choicesLightUp = false;
     bool exitGoesToTable = false;
     bool knowsReview = true;
+    TextRoom room;
+    /// Whether the question carries the gap "____".
+    bool hasGap = false;
 };
+
+/// The most rows that a table screen has room for.
+inline constexpr int tableRows = 15;
 
 /// The twelve quiz screens.
 std::span<const QuizEntry> quizEntries();
 
 /// The entry of a screen, by its exact name, or null.
-const QuizEntry* findQuiz(const QString& form);
+const QuizEntry* findQuiz(std::string_view form);
 
-}  // namespace quizzes
+}  // namespace catalogue

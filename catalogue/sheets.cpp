@@ -1,8 +1,8 @@
-#include "worksheets/sheet_tables.h"
+#include "catalogue/sheets.h"
 
 #include <algorithm>
 
-namespace worksheets {
+namespace catalogue {
 
 namespace {
 
@@ -66,6 +66,8 @@ constexpr std::array builders{
 
 constexpr std::array refused{29,  56,  67,  95,  101, 107, 115, 127, 133, 146,
                              152, 162, 170, 206, 216, 220, 223, 230, 241, 253};
+
+constexpr std::array withSecondLine{121, 134, 165, 208};
 
 constexpr std::array<std::string_view, 2> lines{"tempword", ""};
 constexpr std::array<std::string_view, 2> finals{"tempword", "tablework_final"};
@@ -142,6 +144,14 @@ bool isRefused(int recordNo) {
     return std::find(refused.begin(), refused.end(), recordNo) != refused.end();
 }
 
+std::span<const int> secondLineStarts() {
+    return withSecondLine;
+}
+
+bool hasSecondLine(int firstStep) {
+    return std::find(withSecondLine.begin(), withSecondLine.end(), firstStep) != withSecondLine.end();
+}
+
 const SheetTemplate* templateOf(int recordNo) {
     const auto row = rowOf(templates, recordNo);
     return row == templates.end() ? nullptr : &*row;
@@ -151,4 +161,4 @@ std::span<const SheetTemplate> sheetTemplates() {
     return templates;
 }
 
-}  // namespace worksheets
+}  // namespace catalogue

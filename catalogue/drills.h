@@ -1,12 +1,10 @@
 #pragma once
 
-#include "lessons/drill_layout.h"
-
 #include <limits>
 #include <span>
 #include <string_view>
 
-namespace lessons {
+namespace catalogue {
 
 /// For limits by number: no number reaches it, or every number does.
 inline constexpr int never = std::numeric_limits<int>::max();
@@ -31,13 +29,6 @@ enum class BoxColour { PaleCyan, White, OrangeThenCyan };
 
 enum class CompletionIcon { Information, None };
 
-struct Tops {
-    int quiz = 344;
-    int begin = 344;
-    int next = 456;
-    int pre = 560;
-};
-
 /// The record sets that a leaving routine lets go.
 struct ClosedSets {
     bool tip = true;
@@ -61,7 +52,6 @@ struct Drill {
 
     // The form.
     const char* picture = "Main1.jpg";
-    Tops tops = {};
     const char* answerName = "lblAnswer";
     const char* answerCaption = "Answer";
     const char* preName = "lblPreCaption";
@@ -69,9 +59,8 @@ struct Drill {
     const char* headline = "";
     const char* instruction = pluralInstruction;
     const char* instructionName = "Label1";
-    const DrillLayout* layout = nullptr;
     BoxColour boxColour = BoxColour::PaleCyan;
-    platform::TextRole boxText = platform::TextRole::DrillBox;
+    bool takesPhrases = false;  // the boxes take several words
     bool hasBegin = true;
 
     // Counts. The form may have a box more than the screen uses.
@@ -128,4 +117,4 @@ std::span<const Drill> drillCatalogue();
 /// The row of a screen's name, or null.
 const Drill* findDrill(std::string_view name);
 
-}  // namespace lessons
+}  // namespace catalogue

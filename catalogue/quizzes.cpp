@@ -1,88 +1,76 @@
-#include "quizzes/quiz_catalogue.h"
+#include "catalogue/quizzes.h"
 
 #include <algorithm>
 
-namespace quizzes {
+namespace catalogue {
 
 namespace {
 
-using platform::BoxIcon;
 using enum EndAct;
 
 constexpr std::array twoChoices{
-    ShownField{"lblWord", "q1", Look::Sentence, 40, 160, 788, 120},
-    ShownField{"lblWord2(0)", "q2", Look::Choice, 68, 330, 356, 80},
-    ShownField{"lblWord2(1)", "q3", Look::Choice, 472, 330, 356, 80},
+    ShownField{"lblWord", "q1", Look::Sentence},
+    ShownField{"lblWord2(0)", "q2", Look::Choice},
+    ShownField{"lblWord2(1)", "q3", Look::Choice},
 };
 constexpr std::array fourChoices{
-    ShownField{"lblWord", "q1", Look::Sentence, 40, 160, 788, 120},
-    ShownField{"lblWord2(0)", "q2", Look::Choice, 68, 330, 356, 80},
-    ShownField{"lblWord2(1)", "q3", Look::Choice, 472, 330, 356, 80},
-    ShownField{"lblWord2(2)", "q4", Look::Choice, 68, 434, 356, 80, true},
-    ShownField{"lblWord2(3)", "q5", Look::Choice, 472, 434, 356, 80, true},
+    ShownField{"lblWord", "q1", Look::Sentence},         ShownField{"lblWord2(0)", "q2", Look::Choice},
+    ShownField{"lblWord2(1)", "q3", Look::Choice},       ShownField{"lblWord2(2)", "q4", Look::Choice, true},
+    ShownField{"lblWord2(3)", "q5", Look::Choice, true},
 };
 constexpr std::array twoPairs{
-    ShownField{"lblWord", "q1", Look::Sentence, 40, 140, 788, 96},
-    ShownField{"lblWord2", "q2", Look::Line, 40, 244, 788, 44},
-    ShownField{"lblWord3", "q3", Look::Line, 40, 288, 788, 44},
-    ShownField{"lblWord4", "q4", Look::Choice, 68, 374, 168, 60},
-    ShownField{"lblWord5", "q5", Look::Choice, 266, 374, 168, 60},
-    ShownField{"lblWord6", "q6", Look::Choice, 462, 374, 168, 60},
-    ShownField{"lblWord7", "q7", Look::Choice, 660, 374, 168, 60},
+    ShownField{"lblWord", "q1", Look::Sentence}, ShownField{"lblWord2", "q2", Look::Line},
+    ShownField{"lblWord3", "q3", Look::Line},    ShownField{"lblWord4", "q4", Look::Choice},
+    ShownField{"lblWord5", "q5", Look::Choice},  ShownField{"lblWord6", "q6", Look::Choice},
+    ShownField{"lblWord7", "q7", Look::Choice},
 };
-constexpr std::array wrongWord{ShownField{"lblWord", "q1", Look::Sentence, 40, 136, 788, 100}};
-constexpr std::array gapSentence{ShownField{"lblWord", "q1", Look::Sentence, 40, 186, 788, 110}};
+constexpr std::array wrongWord{ShownField{"lblWord", "q1", Look::Sentence}};
+constexpr std::array gapSentence{ShownField{"lblWord", "q1", Look::Sentence}};
 constexpr std::array wholeSentence{
-    ShownField{"lblWord", "q1", Look::Sentence, 40, 148, 788, 96},
-    ShownField{"lblKorean", "q2", Look::Sentence, 40, 264, 788, 96},
+    ShownField{"lblWord", "q1", Look::Sentence},
+    ShownField{"lblKorean", "q2", Look::Sentence},
 };
 constexpr std::array wordGaps{
-    ShownField{"lblWord", "q1", Look::Sentence, 40, 148, 788, 96},
-    ShownField{"lblKorean", "q2", Look::Sentence, 40, 264, 788, 96},
+    ShownField{"lblWord", "q1", Look::Sentence},
+    ShownField{"lblKorean", "q2", Look::Sentence},
 };
 
 constexpr const char* questionHeading = "Question Word";
 constexpr const char* selectHeading = "Select Word";
 constexpr const char* answeredHeading = "Answered Word";
 
-constexpr Column shows(ColumnKind kind, const char* array, const char* heading, const char* field, int left,
-                       int width) {
-    return {.array = array, .heading = heading, .kind = kind, .shown = field, .left = left, .width = width};
+constexpr Column shows(ColumnKind kind, const char* array, const char* heading, const char* field) {
+    return {.array = array, .heading = heading, .kind = kind, .shown = field};
 }
 
-constexpr Column takes(ColumnKind kind, const char* array, int left, int width) {
-    return {.array = array,
-            .heading = answeredHeading,
-            .kind = kind,
-            .judged = "a1",
-            .left = left,
-            .width = width};
+constexpr Column takes(ColumnKind kind, const char* array) {
+    return {.array = array, .heading = answeredHeading, .kind = kind, .judged = "a1"};
 }
 
 constexpr Column typed(const char* array, const char* heading, const char* judged, const char* stored,
-                       const char* wrongList, int left, int width) {
-    return {array, heading, ColumnKind::Box, nullptr, judged, stored, wrongList, left, width};
+                       const char* wrongList) {
+    return {array, heading, ColumnKind::Box, nullptr, judged, stored, wrongList};
 }
 
 constexpr std::array rowChoices{
-    shows(ColumnKind::Text, "lblWord", questionHeading, "q1", 56, 326),
-    shows(ColumnKind::Choice, "lblWord2", selectHeading, "q2", 390, 142),
-    shows(ColumnKind::Choice, "lblWord3", selectHeading, "q3", 540, 142),
-    takes(ColumnKind::Answer, "lblWord4", 690, 138),
+    shows(ColumnKind::Text, "lblWord", questionHeading, "q1"),
+    shows(ColumnKind::Choice, "lblWord2", selectHeading, "q2"),
+    shows(ColumnKind::Choice, "lblWord3", selectHeading, "q3"),
+    takes(ColumnKind::Answer, "lblWord4"),
 };
 constexpr std::array pool{
-    shows(ColumnKind::Text, "lblWord", questionHeading, "q1", 56, 390),
-    takes(ColumnKind::Slot, "lblWord2", 454, 166),
-    shows(ColumnKind::Pool, "lblWord3", selectHeading, "a1", 662, 166),
+    shows(ColumnKind::Text, "lblWord", questionHeading, "q1"),
+    takes(ColumnKind::Slot, "lblWord2"),
+    shows(ColumnKind::Pool, "lblWord3", selectHeading, "a1"),
 };
 constexpr std::array typedColumn{
-    shows(ColumnKind::Text, "lblWord", questionHeading, "q1", 56, 450),
-    typed("txtWord", answeredHeading, "a1", "a2", "blankno", 518, 310),
+    shows(ColumnKind::Text, "lblWord", questionHeading, "q1"),
+    typed("txtWord", answeredHeading, "a1", "a2", "blankno"),
 };
 constexpr std::array twoTypedColumns{
-    shows(ColumnKind::LowerText, "lblWord", questionHeading, "q1", 56, 290),
-    typed("txtWord", "Answered Word (1)", "a1", "q2", "blankno", 358, 227),
-    typed("txtWord2", "Answered Word (2)", "a2", "q3", "blankno2", 601, 227),
+    shows(ColumnKind::LowerText, "lblWord", questionHeading, "q1"),
+    typed("txtWord", "Answered Word (1)", "a1", "q2", "blankno"),
+    typed("txtWord2", "Answered Word (2)", "a2", "q3", "blankno2"),
 };
 
 constexpr const char* wrongPicks =
@@ -101,7 +89,7 @@ constexpr CheckManner byEnter{
     .pass = {OfferBegin, Save, Chime, TellGoodJob, ShowNext, StartWalk},
     .keepsAverage = false,
 };
-constexpr FinalMessage plainFinal{false, BoxIcon::None};
+constexpr FinalMessage plainFinal{false, false};
 
 constexpr std::array entries{
     QuizEntry{
@@ -112,8 +100,9 @@ constexpr std::array entries{
         .columns = rowChoices,
         .quizCaption = "Answer",
         .check = {wrongPicks, {Chime, Save, ShowNext, TellEnd, OfferBegin}},
-        .finalMessage = {false, BoxIcon::Information},
+        .finalMessage = {false, true},
         .exitGoesToTable = true,
+        .room = {34, 16, 16},
     },
     QuizEntry{
         .form = "frmQuiz2",
@@ -130,6 +119,7 @@ constexpr std::array entries{
                   .failureStartsWalk = true},
         .finalMessage = plainFinal,
         .knowsReview = false,
+        .room = {44, 0, 24},
     },
     QuizEntry{
         .form = "frmQuiz3",
@@ -143,6 +133,8 @@ constexpr std::array entries{
         .marksWrongRows = true,
         .hasAnswerLine = true,
         .check = savedThenTold,
+        .room = {110, 22, 22},
+        .hasGap = true,
     },
     QuizEntry{
         .form = "frmQuiz4",
@@ -158,6 +150,7 @@ constexpr std::array entries{
         .hasAnswerLine = true,
         .teacherHelp = TeacherHelp::FillsAnswer,
         .check = toldThenSaved,
+        .room = {110, 0, 22},
     },
     QuizEntry{
         .form = "frmQuiz5",
@@ -169,6 +162,7 @@ constexpr std::array entries{
         .marksWrongRows = true,
         .hasAnswerLine = true,
         .check = savedThenTold,
+        .room = {110, 0, 0},
     },
     QuizEntry{
         .form = "frmQuiz6",
@@ -183,6 +177,7 @@ constexpr std::array entries{
         .hasAnswerLine = true,
         .teacherHelp = TeacherHelp::FillsAnswer,
         .check = toldThenSaved,
+        .room = {110, 0, 60},
     },
     QuizEntry{
         .form = "frmQuiz7",
@@ -194,6 +189,8 @@ constexpr std::array entries{
         .marksWrongRows = true,
         .hasAnswerLine = true,
         .check = savedThenTold,
+        .room = {110, 26, 26},
+        .hasGap = true,
     },
     QuizEntry{
         .form = "frmQuiz8",
@@ -208,6 +205,8 @@ constexpr std::array entries{
         .hasAnswerLine = true,
         .check = savedThenTold,
         .choicesLightUp = true,
+        .room = {110, 26, 26},
+        .hasGap = true,
     },
     QuizEntry{
         .form = "frmQuiz9",
@@ -220,6 +219,7 @@ constexpr std::array entries{
         .check = {wrongTyping, {OfferBegin, Save, TellEnd, ShowNext, StartWalk}},
         .enterCheck = &byEnter,
         .finalMessage = plainFinal,
+        .room = {24, 0, 24},
     },
     QuizEntry{
         .form = "frmQuiz10",
@@ -234,6 +234,8 @@ constexpr std::array entries{
         .hasAnswerLine = true,
         .teacherHelp = TeacherHelp::PassesByQuiz,
         .check = savedThenTold,
+        .room = {110, 0, 40},
+        .hasGap = true,
     },
     QuizEntry{
         .form = "frmQuiz11",
@@ -250,6 +252,8 @@ constexpr std::array entries{
                   .pass = {Save, ShowNext, Chime, TellEnd, OfferBegin},
                   .failureClosesGate = true},
         .finalMessage = plainFinal,
+        .room = {40, 0, 16},
+        .hasGap = true,
     },
     QuizEntry{
         .form = "frmQuiz12",
@@ -266,6 +270,8 @@ constexpr std::array entries{
                   .pass = {CloseGate, Save, ShowNext, TellEnd, OfferBegin},
                   .failureClosesGate = true},
         .finalMessage = plainFinal,
+        .room = {40, 0, 16},
+        .hasGap = true,
     },
 };
 
@@ -275,11 +281,10 @@ std::span<const QuizEntry> quizEntries() {
     return entries;
 }
 
-const QuizEntry* findQuiz(const QString& form) {
-    const auto found = std::find_if(entries.begin(), entries.end(), [&](const QuizEntry& entry) {
-        return form == QLatin1String(entry.form);
-    });
+const QuizEntry* findQuiz(std::string_view form) {
+    const auto found = std::find_if(entries.begin(), entries.end(),
+                                    [&](const QuizEntry& entry) { return entry.form == form; });
     return found == entries.end() ? nullptr : &*found;
 }
 
-}  // namespace quizzes
+}  // namespace catalogue
