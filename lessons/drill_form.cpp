@@ -5,6 +5,7 @@
 #include "course/score.h"
 #include "course/walk.h"
 #include "lessons/box_keys.h"
+#include "lessons/drill_look.h"
 
 #include <QFontMetrics>
 
@@ -28,36 +29,6 @@ const QString sampleAnswer = QStringLiteral("houses");
 constexpr int narrowBox = 100;
 // A text that is too long for its box is written smaller, down to this.
 constexpr int leastPixels = 9;
-
-course::ChromeLayout chromeOf(const Drill& drill) {
-    const Tops& tops = layoutOf(drill.name).tops;
-    course::ChromeLayout chrome;
-    chrome.picture = drill.picture;
-    chrome.quizTop = tops.quiz;
-    chrome.beginTop = tops.begin;
-    chrome.nextTop = tops.next;
-    chrome.preTop = tops.pre;
-    chrome.hasBegin = drill.hasBegin;
-    chrome.quizLabelName = drill.answerName;
-    chrome.quizCaption = drill.answerCaption;
-    chrome.preLabelName = drill.preName;
-    chrome.preCaption = drill.preCaption;
-    return chrome;
-}
-
-TextRole boxRole(const Drill& drill) {
-    return drill.takesPhrases ? TextRole::DrillPhrase : TextRole::DrillBox;
-}
-
-QRgb boxColour(const Drill& drill, int box) {
-    switch (drill.boxColour) {
-        case BoxColour::PaleCyan: return platform::colour::paleCyan;
-        case BoxColour::White: return platform::colour::white;
-        case BoxColour::OrangeThenCyan:
-            return box < drill.boxes / 2 ? platform::colour::lightOrange : platform::colour::paleCyan;
-    }
-    return platform::colour::white;
-}
 
 }  // namespace
 
