@@ -30,6 +30,8 @@ class CourseTable final : public core::Screen {
     void buildHeader();
     void buildTopics();
     void buildRows();
+    void buildRow(int i);
+    void buildWait();
     /// Shows a button at rest (1) or lit (2).
     void showButton(int index, int state);
     void firstTick();

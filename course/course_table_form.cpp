@@ -113,29 +113,40 @@ void CourseTable::buildRows() {
                               Heading{"Label5", QRect(824, 153, 50, 18), "Score"}};
     for (const Heading& heading : headings)
         addLabel(QLatin1String(heading.name), heading.place, TextRole::Caption, QLatin1String(heading.text));
-    for (int i = 0; i < rowsPerPage; ++i) {
-        const int y = 178 + i * pitch;
-        Label& number = addLabel(lblRecordNo_, QRect(264, y, 52, lineHeight), TextRole::Body);
-        Label& title = addLabel(lblTitle_, QRect(322, y - 1, 214, pitch - 1), TextRole::Body);
-        title.setContentsMargins(qRound(focusMargin * scale()), 0, 0, 0);
-        addLabel(lblLesson_, QRect(538, y, 192, lineHeight), TextRole::Body);
-        addLabel(lblDate_, QRect(734, y, 84, lineHeight), TextRole::Body);
-        addLabel(lblScore_, QRect(824, y, 48, lineHeight), TextRole::Body);
-        addLabel(lblAutoNo_, QRect(910, y, 10, lineHeight), TextRole::Small).hide();
-        number.setAlignment(Qt::AlignCenter);
-        title.setFocusPolicy(Qt::TabFocus);
-        for (Label* clickable : {&number, &title}) {
-            clickable->onClick = [this, i] { rowClicked(i); };
-            clickable->onMouseMove = [this, i] { rowHovered(i); };
-        }
-        PictureButton& star = addPictureButton(picScore_.memberName(i), QRect(884, y - 1, 20, 20),
-                                               QStringLiteral("Full marks"));
-        star.setFocusPolicy(Qt::NoFocus);
-        loadDesignPicture(star, QStringLiteral("button\\star.jpg"));
-        picScore_.add(&star);
-    }
+    for (int i = 0; i < rowsPerPage; ++i)
+        buildRow(i);
     lblCurrentPage_ = &addLabel(QStringLiteral("lblCurrentPage"), QRect(826, 648, 40, 22), TextRole::Caption);
     lblCurrentPage_->setAlignment(Qt::AlignCenter);
+    buildWait();
+    setHandCursor(lblRecordNo_(0), handCursor);
+    for (const auto* column : {&lblRecordNo_, &lblTitle_, &lblLesson_, &lblDate_})
+        for (Label* label : *column)
+            label->setCursor(lblRecordNo_(0).cursor());
+}
+
+void CourseTable::buildRow(int i) {
+    const int y = 178 + i * pitch;
+    Label& number = addLabel(lblRecordNo_, QRect(264, y, 52, lineHeight), TextRole::Body);
+    Label& title = addLabel(lblTitle_, QRect(322, y - 1, 214, pitch - 1), TextRole::Body);
+    title.setContentsMargins(qRound(focusMargin * scale()), 0, 0, 0);
+    addLabel(lblLesson_, QRect(538, y, 192, lineHeight), TextRole::Body);
+    addLabel(lblDate_, QRect(734, y, 84, lineHeight), TextRole::Body);
+    addLabel(lblScore_, QRect(824, y, 48, lineHeight), TextRole::Body);
+    addLabel(lblAutoNo_, QRect(910, y, 10, lineHeight), TextRole::Small).hide();
+    number.setAlignment(Qt::AlignCenter);
+    title.setFocusPolicy(Qt::TabFocus);
+    for (Label* clickable : {&number, &title}) {
+        clickable->onClick = [this, i] { rowClicked(i); };
+        clickable->onMouseMove = [this, i] { rowHovered(i); };
+    }
+    PictureButton& star =
+        addPictureButton(picScore_.memberName(i), QRect(884, y - 1, 20, 20), QStringLiteral("Full marks"));
+    star.setFocusPolicy(Qt::NoFocus);
+    loadDesignPicture(star, QStringLiteral("button\\star.jpg"));
+    picScore_.add(&star);
+}
+
+void CourseTable::buildWait() {
     auto& wait =
         addPictureButton(QStringLiteral("picWait"), QRect(265, 270, 420, 160), QStringLiteral("Please wait"));
     auto& bar =
@@ -145,10 +156,6 @@ void CourseTable::buildRows() {
     for (QWidget* hidden :
          {static_cast<QWidget*>(&wait), static_cast<QWidget*>(&bar), static_cast<QWidget*>(&show)})
         hidden->hide();
-    setHandCursor(lblRecordNo_(0), handCursor);
-    for (const auto* column : {&lblRecordNo_, &lblTitle_, &lblLesson_, &lblDate_})
-        for (Label* label : *column)
-            label->setCursor(lblRecordNo_(0).cursor());
 }
 
 /// Tab goes down the units and the steps, then along the buttons.
