@@ -1,5 +1,6 @@
+#include "tools/media/speech.h"
+
 #include "tools/media/wave.h"
-#include "tools/setup/install.h"
 
 #include <QDir>
 #include <QFile>

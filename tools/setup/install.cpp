@@ -3,6 +3,7 @@
 #include "platform/storage/database.h"
 #include "platform/whole_file.h"
 #include "tools/coursefiles/course_source.h"
+#include "tools/media/speech.h"
 #include "tools/media/wave.h"
 #include "tools/rules/check.h"
 #include "tools/setup/store_writer.h"

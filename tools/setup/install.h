@@ -45,9 +45,4 @@ BuiltStores makeStores(const InstallPlan& plan);
 /// True for a store that `writeStore` made, told by a mark inside it.
 bool madeBySetup(const QString& storeFile);
 
-/// Speaks each word that has no sound file yet. Gives the number of words that stay silent because no speech
-/// program is there.
-int speakWords(const QStringList& words, const QString& folder,
-               const std::function<void(const QString& what, int done, int total)>& progress);
-
 }  // namespace tools
