@@ -6,10 +6,5 @@ int main(int argc, char** argv) {
     platform::Application application(argc, argv);
     platform::setUpLook();
     app::Program program;
-    int status = 0;
-    application.guarded([&] {
-        if (program.start())
-            status = platform::Application::exec();
-    });
-    return status;
+    return application.run([&program] { return program.start(); });
 }

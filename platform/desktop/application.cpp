@@ -78,6 +78,7 @@ bool Application::event(QEvent* event) {
     // The learner logs out of the desktop. The toolkit would close one window after the other until one will
     // not, and end nothing while a question stands. Nothing is asked and nothing saved here: every result was
     // stored when it happened.
+    toEnd_ = true;
     exit(0);
     return true;
 }
@@ -91,6 +92,15 @@ bool Application::notify(QObject* receiver, QEvent* event) {
         onFailure(failure);
         return true;
     }
+}
+
+int Application::run(const std::function<bool()>& start) {
+    int status = 0;
+    guarded([&] {
+        if (start() && !toEnd_)
+            status = exec();
+    });
+    return status;
 }
 
 void Application::guarded(const std::function<void()>& work) {

@@ -15,6 +15,8 @@ class Application : public QApplication {
     Application(int& argc, char** argv);
 
     bool notify(QObject* receiver, QEvent* event) override;
+    /// Runs `start` and, where it gives true, the event loop until the program ends. Gives the exit status.
+    int run(const std::function<bool()>& start);
     /// Runs `work` under the same rule as an event handler.
     void guarded(const std::function<void()>& work);
 
@@ -24,6 +26,9 @@ class Application : public QApplication {
 
    protected:
     bool event(QEvent* event) override;
+
+   private:
+    bool toEnd_ = false;  // the desktop has asked, maybe before the event loop began
 };
 
 /// "Run-time error '53': …" with the plain sentence on its own paragraph.

@@ -87,10 +87,12 @@ TEST(StoreThatMayNotGrow, EndsTheRunWithItsNameAndKeepsWhatWasSaved) {
 }
 
 TEST(LogOut, EndsTheProgramThoughAQuestionStands) {
-    const Outcome run = runFailing("log out");
-    EXPECT_EQ(run.ended, QProcess::NormalExit);
-    EXPECT_EQ(run.status, 0);
-    EXPECT_EQ(run.told, "the question is over\n");
+    for (const char* when : {"log out", "log out early"}) {
+        const Outcome run = runFailing(when);
+        EXPECT_EQ(run.ended, QProcess::NormalExit) << when;
+        EXPECT_EQ(run.status, 0) << when;
+        EXPECT_EQ(run.told, "the question is over\n") << when;
+    }
 }
 
 TEST(FailureText, AnyOtherFailureIsToldInItsOwnWords) {

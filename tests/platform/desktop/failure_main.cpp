@@ -101,13 +101,15 @@ void fillStore(const QString& file) {
     tell("the store took everything");
 }
 
-/// The desktop asks the program to end while a question stands, which goes with its buttons alone.
+/// A question, which goes with its buttons alone.
+void ask() {
+    platform::DesktopBoxes boxes;
+    boxes.ask(QStringLiteral("다음?"), QStringLiteral("Tovalin"));
+    tell("the question is over");
+}
+
+/// The desktop asks the program to end while a message stands.
 void logOut() {
-    QTimer::singleShot(0, [] {
-        platform::DesktopBoxes boxes;
-        boxes.ask(QStringLiteral("다음?"), QStringLiteral("Tovalin"));
-        tell("the question is over");
-    });
     auto* desktop = new QTimer(QCoreApplication::instance());
     QObject::connect(desktop, &QTimer::timeout, desktop, [] {
         if (QApplication::activeModalWidget() != nullptr)
@@ -163,8 +165,19 @@ int main(int argc, char** argv) {
         {"startup", [&] { application.guarded(fail); }},
         {"screen", [] { windows = new Windows; }},
         {"full store", [&] { application.guarded([&] { fillStore(application.arguments().value(2)); }); }},
-        {"log out", [] { logOut(); }},
+        {"log out",
+         [] {
+             logOut();
+             QTimer::singleShot(0, ask);
+         }},
+        {"log out early",
+         [] {
+             logOut();
+             ask();
+         }},
     };
-    ways.at(application.arguments().value(1))();
-    return QApplication::exec();
+    return application.run([&] {
+        ways.at(application.arguments().value(1))();
+        return true;
+    });
 }
