@@ -73,7 +73,7 @@ struct Shot {
 std::vector<Shot> shotsOf(const VideoText& text, const std::vector<Slide>& slides);
 
 /// A video's length in seconds, where speech alone is not longer.
-inline constexpr double longestVideo = 120.0;
+inline constexpr double longestVideo = 180.0;
 
 /// Sets how long each shot stands, from its speech, or its reading time where it has no voice. Pauses give
 /// way so that the whole keeps its bound.

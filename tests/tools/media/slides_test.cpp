@@ -154,9 +154,9 @@ double sum(const std::vector<Shot>& shots) {
 
 TEST(Slides, PausesGiveWayWhereAVideoWouldGrowLong) {
     EXPECT_LT(sum(timed(block.repeated(3), 2.0)), 30.0);
-    const double eased = sum(timed(block.repeated(23), 2.0));
+    const double eased = sum(timed(block.repeated(35), 2.0));
     EXPECT_LE(eased, longestVideo);
-    EXPECT_GT(eased, 23 * 2 * 2.0);
+    EXPECT_GT(eased, 35 * 2 * 2.0);
 }
 
 TEST(Slides, ALineStandsAsLongAsItIsSpokenAndIsFollowedByAShortPause) {
