@@ -271,6 +271,10 @@ TitleRule titleRule(const QString& tips) {
                              [](const SlideLine& line) { return number.match(line.text).hasMatch(); });
     if (rule == lines.end())
         rule = lines.begin();
+    // A heading that only names the point gives way to the sentence below it.
+    if (rule != lines.end() && !rule->text.endsWith(u'.') && rule + 1 != lines.end() &&
+        (rule + 1)->kind == LineKind::Korean)
+        ++rule;
     const auto example =
         std::find_if(rule, lines.end(), [](const SlideLine& line) { return line.kind == LineKind::Example; });
     TitleRule shown;

@@ -25,7 +25,7 @@ namespace tools {
 namespace {
 
 // Counts up whenever slides or timing change, so that older videos are made again.
-constexpr int makerVersion = 2;
+constexpr int makerVersion = 3;
 constexpr int encodePatience = 600000;  // milliseconds for one video
 
 enum class Found { Absent, Current, Outdated, Foreign };

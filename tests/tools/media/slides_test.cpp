@@ -131,6 +131,10 @@ TEST(Slides, TheTitleShowsTheFirstRuleWithItsExample) {
     EXPECT_EQ(numbered.example.text, QStringLiteral("cat - cats"));
     EXPECT_EQ(titleRule(QStringLiteral("명사는 이름입니다.\nI am Mina.")).rule.text,
               QStringLiteral("명사는 이름입니다."));
+    EXPECT_EQ(titleRule(QStringLiteral("1. 복수형\n끝에 s를 붙입니다.\ncat - cats")).rule.text,
+              QStringLiteral("끝에 s를 붙입니다."));
+    EXPECT_EQ(titleRule(QStringLiteral("1. 하나이면 is\nThere is a cat.")).rule.text,
+              QStringLiteral("하나이면 is"));
     EXPECT_TRUE(titleRule(QString()).rule.text.isEmpty());
     EXPECT_TRUE(titleRule(QStringLiteral("I am Mina.")).rule.text.isEmpty());
 }
