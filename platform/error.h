@@ -24,7 +24,8 @@ enum class Fault {
     DatabaseFailure = 3049,
 };
 
-/// The one error that ends a run: a number and a sentence a learner can pass on.
+/// The one error that ends a run: a number and a sentence a learner can pass on. A sentence
+/// too long for a box loses its middle.
 class RuntimeError : public std::runtime_error {
    public:
     RuntimeError(Fault fault, const QString& sentence);
