@@ -175,7 +175,7 @@ void ShuffleFifteenRows(benchmark::State& state) {
     for (auto _ : state) {
         state.SetIterationTime(shuffles.time([&] {
             platform::Recordset rows = course.openRecordset(QStringLiteral("Select * from quiz_data_new3"));
-            platform::Batch batch(course);
+            platform::Transaction transaction(course);
             for (; !rows.eof(); rows.moveNext()) {
                 rows.edit();
                 rows.set(QStringLiteral("orderno"), 0);
@@ -183,7 +183,7 @@ void ShuffleFifteenRows(benchmark::State& state) {
             }
             course::shuffleRows(desk.context(), rows, QStringLiteral("orderno"), rowCount,
                                 QStringLiteral("topicno=1 and recordno=122 and "));
-            batch.commit();
+            transaction.commit();
         }));
         writes.time([&] { writeNumbersOnce(plain); });
     }

@@ -24,7 +24,7 @@ bool awaitTurn(platform::FileLock& lock, const QString& folder) {
                                    "closed."),
                     QMessageBox::Cancel);
     box.setObjectName(QStringLiteral("waitBox"));
-    platform::dressBox(box);
+    platform::styleBox(box);
     bool taken = false;
     QTimer look;
     QObject::connect(&look, &QTimer::timeout, &box, [&] {

@@ -19,7 +19,7 @@ void CourseTable::firstTick() {
     for (int i = 0; !topicRs_.eof(); ++i, topicRs_.moveNext()) {
         if (i == topicCount)
             throw platform::RuntimeError(
-                platform::Fault::SubscriptOutOfRange,
+                platform::ErrorCode::SubscriptOutOfRange,
                 QStringLiteral(
                     "Subscript out of range: the course table shows %1 units, and there are more in %2.")
                     .arg(topicCount)

@@ -13,9 +13,9 @@
 namespace course {
 
 using core::Context;
-using platform::Batch;
 using platform::Database;
 using platform::Recordset;
+using platform::Transaction;
 
 namespace {
 
@@ -194,7 +194,7 @@ void PrepareStepData(const Context& context, const QString& courseFile) {
     const Database master = core::openMaster(context);
     const int recordNo = context.session.recordNo;
     const Database wordBook = core::openWordBook(context);
-    Batch words(wordBook);
+    Transaction words(wordBook);
     Recordset book = emptied(wordBook, QStringLiteral("word_book"));
     const Database course = core::openStore(context, courseFile);
     fillWordBook(context, std::move(book), course);
@@ -203,7 +203,7 @@ void PrepareStepData(const Context& context, const QString& courseFile) {
     words.commit();
     const platform::Hourglass hourglass;
     const auto masterRows = [&](const QString& sql) { return master.openRecordset(sql); };
-    Batch batch(course);
+    Transaction transaction(course);
     copyRows(masterRows(QStringLiteral("Select * from tovalin1_quiz_data WHERE recordno=%1 order by autono")
                             .arg(recordNo)),
              {course, QStringLiteral("quiz_data_New3")}, core::quizCopyFields);
@@ -214,17 +214,17 @@ void PrepareStepData(const Context& context, const QString& courseFile) {
              core::basicCopyFields);
     if (recordNo == catalogue::secondListStep)
         fillSecondList(course, master);
-    batch.commit();
+    transaction.commit();
 }
 
 void PrepareFinalData(const Context& context, const QString& courseFile) {
     context.session.finalItemTotal = 0;
     const Database course = core::openStore(context, courseFile);
-    Batch batch(course);
+    Transaction transaction(course);
     listFinalSteps(context, course);
     chooseQuestions(context, course);
     fetchQuestions(context, course);
-    batch.commit();
+    transaction.commit();
     context.session.finalItemNo = 1;
 }
 

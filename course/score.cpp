@@ -86,7 +86,7 @@ void storeScore(const core::Context& context) {
     session.scoreDb = core::openScores(context);
     // Looking and writing are one transaction: a second copy of the program cannot add the same row between
     // the two.
-    platform::Batch saving(session.scoreDb);
+    platform::Transaction saving(session.scoreDb);
     session.scoreRs = session.scoreDb.openRecordset(QStringLiteral("Select * from score where ") +
                                                     core::learnerStepCriterion(session));
     if (session.scoreRs.isEmpty())
@@ -129,7 +129,7 @@ void SaveScore(const core::Context& context) {
 
 Int16 percentScore(int correct, int total) {
     if (total == 0)
-        throw platform::RuntimeError(platform::Fault::Overflow,
+        throw platform::RuntimeError(platform::ErrorCode::Overflow,
                                      QStringLiteral("Overflow: a score over no items at all."));
     return platform::roundToInt16(static_cast<double>(correct) / total * 100.0);
 }
@@ -137,7 +137,7 @@ Int16 percentScore(int correct, int total) {
 Int16 averageScore(const std::array<Int16, core::finalStepLimit>& scores, int count) {
     if (count < 1 || count > core::finalStepLimit)
         throw platform::RuntimeError(
-            platform::Fault::SubscriptOutOfRange,
+            platform::ErrorCode::SubscriptOutOfRange,
             QStringLiteral(
                 "Subscript out of range: a Final Quiz keeps scores of at most %1 steps, not of %2.")
                 .arg(core::finalStepLimit)

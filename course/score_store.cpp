@@ -8,12 +8,12 @@ namespace course {
 namespace {
 
 /// Whether a failure is one of the store, which somebody can mend while the box stands.
-bool isOfTheStore(platform::Fault fault) {
-    switch (fault) {
-        case platform::Fault::DatabaseNotFound:
-        case platform::Fault::DatabaseFailure:
-        case platform::Fault::UnrecognizedFormat:
-        case platform::Fault::TableNotFound: return true;
+bool isOfTheStore(platform::ErrorCode code) {
+    switch (code) {
+        case platform::ErrorCode::DatabaseNotFound:
+        case platform::ErrorCode::DatabaseFailure:
+        case platform::ErrorCode::UnrecognizedFormat:
+        case platform::ErrorCode::TableNotFound: return true;
         default: return false;
     }
 }
@@ -27,7 +27,7 @@ void repeat(const core::Context& context, const QString& text, const std::functi
             // The next attempt opens the file anew: it may be another one by then.
             context.session.scoreRs.close();
             context.session.scoreDb.close();
-            if (!isOfTheStore(failure.fault()) || !context.boxes.askAgain(text, failure.sentence()))
+            if (!isOfTheStore(failure.code()) || !context.boxes.askAgain(text, failure.sentence()))
                 throw;
         }
     }

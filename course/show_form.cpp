@@ -14,7 +14,7 @@ void storeWatched(const core::Context& context) {
     core::Session& session = context.session;
     session.scoreDb = core::openScores(context);
     // As in every save, nobody else may add the row between the look and the writing.
-    platform::Batch saving(session.scoreDb);
+    platform::Transaction saving(session.scoreDb);
     platform::Recordset& row = session.scoreRs;
     row = session.scoreDb.openRecordset(QStringLiteral("Select * from score where ") +
                                         core::learnerStepCriterion(session));

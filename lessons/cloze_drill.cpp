@@ -28,11 +28,11 @@ void ClozeDrill::beginClicked() {
 }
 
 void ClozeDrill::beginFirstPass() {
-    platform::Batch batch(contentDb);
+    platform::Transaction transaction(contentDb);
     listAllRows();
     showListedRows();
     keepBlanksAlone();
-    batch.commit();
+    transaction.commit();
 }
 
 void ClozeDrill::listAllRows() {
@@ -94,13 +94,13 @@ void ClozeDrill::renumber() {
 
 void ClozeDrill::quizClicked() {
     startRetrying();
-    platform::Batch batch(contentDb);
+    platform::Transaction transaction(contentDb);
     removeRightRows();
     openBlanks(byBox);
     const bool done = blankRs.isEmpty();
     if (!done)
         renumber();
-    batch.commit();
+    transaction.commit();
     if (done) {
         finish();
         return;

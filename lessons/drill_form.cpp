@@ -137,7 +137,7 @@ bool DrillForm::isToBeRead(const Recordset& rows, SetUse use, const char* table)
     if (use == SetUse::Guarded)
         return false;
     throw platform::RuntimeError(
-        platform::Fault::NoCurrentRecord,
+        platform::ErrorCode::NoCurrentRecord,
         QStringLiteral("No current record: step %1 of topic %2 has 0 rows in table '%3', and "
                        "%4 needs at least 1 (%5).")
             .arg(recordNo())
@@ -150,7 +150,7 @@ void DrillForm::requireRoom(Recordset& rows, int room, const char* table, const 
     const int count = rows.recordCount();
     if (count > room)
         throw platform::RuntimeError(
-            platform::Fault::SubscriptOutOfRange,
+            platform::ErrorCode::SubscriptOutOfRange,
             QStringLiteral("Subscript out of range: step %1 of topic %2 has %3 rows in table "
                            "'%4', and %5 has room for %6 (%7).")
                 .arg(recordNo())
@@ -237,14 +237,14 @@ bool DrillForm::isPlainRow() const {
 }
 
 void DrillForm::writeRows() {
-    platform::Batch batch(contentDb);
+    platform::Transaction transaction(contentDb);
     for (; !basicRs.eof(); basicRs.moveNext()) {
         if (drill_.clearsWord3)
             setField(basicRs, QStringLiteral("word3"), QString(QLatin1String("")));
         if (isPlainRow())
             setField(basicRs, QStringLiteral("word2"), basicRs.value(QStringLiteral("word1")));
     }
-    batch.commit();
+    transaction.commit();
 }
 
 void DrillForm::fillRow(int row) {

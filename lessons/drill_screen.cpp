@@ -68,10 +68,10 @@ void DrillScreen::quizClicked() {
 }
 
 void DrillScreen::judge() {
-    platform::Batch batch(contentDb);
+    platform::Transaction transaction(contentDb);
     listRightWords();
     markRightRows();
-    batch.commit();
+    transaction.commit();
 }
 
 void DrillScreen::listRightWords() {

@@ -58,14 +58,14 @@ void SetDrill::beginClicked() {
 }
 
 void SetDrill::beginFirstPass() {
-    platform::Batch batch(contentDb);
+    platform::Transaction transaction(contentDb);
     deleteBlanks();
     toFirstRow();
     for (int i = 0; !basicRs.eof(); ++i, basicRs.moveNext())
         txtWord(i).setText(firstLetter(basicRs.text(word1)));
     for (int i = 0; i < boxCount(); ++i)
         addBlank(blankRs, i, i + 1);
-    batch.commit();
+    transaction.commit();
     txtWord(0).setFocus();
 }
 
@@ -95,7 +95,7 @@ void SetDrill::quizClicked() {
 }
 
 Int16 SetDrill::countMisses() {
-    platform::Batch batch(contentDb);
+    platform::Transaction transaction(contentDb);
     deleteBlanks();
     openRows();
     for (toFirstRow(); !basicRs.eof(); basicRs.moveNext())
@@ -110,7 +110,7 @@ Int16 SetDrill::countMisses() {
         else
             setField(basicRs, word2, text);
     }
-    batch.commit();
+    transaction.commit();
     return missCount;
 }
 
@@ -128,7 +128,7 @@ void SetDrill::finish() {
 
 void SetDrill::showWrongRows() {
     context().boxes.notice(QString::fromUtf8(drill().missed));
-    platform::Batch batch(contentDb);
+    platform::Transaction transaction(contentDb);
     openRows();
     openBlanks();
     toFirstRow();
@@ -140,7 +140,7 @@ void SetDrill::showWrongRows() {
         if (!done)
             addBlank(blankRs, basicRs.integer(QStringLiteral("orderno")) - 1, orderNo++);
     }
-    batch.commit();
+    transaction.commit();
     showReview();
 }
 

@@ -18,7 +18,7 @@ QString shortened(const QString& sentence) {
 
 }  // namespace
 
-RuntimeError::RuntimeError(Fault fault, const QString& sentence)
-    : std::runtime_error(shortened(sentence).toStdString()), fault_(fault), sentence_(shortened(sentence)) {}
+RuntimeError::RuntimeError(ErrorCode code, const QString& sentence)
+    : std::runtime_error(shortened(sentence).toStdString()), code_(code), sentence_(shortened(sentence)) {}
 
 }  // namespace platform

@@ -7,7 +7,7 @@
 namespace platform {
 
 /// What went wrong, numbered as desktop database programs number it.
-enum class Fault {
+enum class ErrorCode {
     InvalidCall = 5,
     Overflow = 6,
     SubscriptOutOfRange = 9,
@@ -28,15 +28,15 @@ enum class Fault {
 /// too long for a box loses its middle.
 class RuntimeError : public std::runtime_error {
    public:
-    RuntimeError(Fault fault, const QString& sentence);
+    RuntimeError(ErrorCode code, const QString& sentence);
 
-    Fault fault() const { return fault_; }
-    int number() const { return static_cast<int>(fault_); }
+    ErrorCode code() const { return code_; }
+    int number() const { return static_cast<int>(code_); }
     /// The plain sentence, without the number.
     const QString& sentence() const { return sentence_; }
 
    private:
-    Fault fault_;
+    ErrorCode code_;
     QString sentence_;
 };
 

@@ -12,7 +12,7 @@ namespace {
 std::int16_t checked(double value) {
     if (!(value >= std::numeric_limits<std::int16_t>::min() &&
           value <= std::numeric_limits<std::int16_t>::max()))
-        throw RuntimeError(Fault::Overflow,
+        throw RuntimeError(ErrorCode::Overflow,
                            QStringLiteral("Overflow: %1 does not fit into 16 bits.").arg(value));
     return static_cast<std::int16_t>(value);
 }
@@ -44,7 +44,7 @@ Int16 textToInt16(const QString& text) {
     bool isNumber = false;
     const double value = text.trimmed().toDouble(&isNumber);
     if (!isNumber || !std::isfinite(value))
-        throw RuntimeError(Fault::TypeMismatch,
+        throw RuntimeError(ErrorCode::TypeMismatch,
                            QStringLiteral("Type mismatch: \"%1\" is not a number.").arg(text));
     return roundToInt16(value);
 }

@@ -26,7 +26,7 @@ ButtonQuiz::ButtonQuiz(core::Context& context, const QuizEntry& entry) : Questio
         const QRect place(cardLeft + i * buttonPitch, buttonTop, buttonWidth, buttonHeight);
         platform::CommandButton& button = addButton(cmdOne_, place, unneeded);
         button.setFont(platform::roleFont(TextRole::Choice, scale()));
-        dress(button);
+        applyLook(button);
         button.setCursor(Qt::PointingHandCursor);
         button.setAutoDefault(true);
         button.onClick = [this, i] { pressed(i); };

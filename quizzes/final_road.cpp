@@ -8,7 +8,7 @@ namespace quizzes {
 void keepStepScore(core::Session& session, core::Int16 score) {
     const int step = session.finalStepNo;
     if (step < 1 || step > core::finalStepLimit)
-        throw platform::RuntimeError(platform::Fault::SubscriptOutOfRange,
+        throw platform::RuntimeError(platform::ErrorCode::SubscriptOutOfRange,
                                      QStringLiteral("Subscript out of range: step %1 of a Final Quiz has no "
                                                     "place for its score, there are %2.")
                                          .arg(step)

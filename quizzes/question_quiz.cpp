@@ -23,7 +23,7 @@ QuestionQuiz::QuestionQuiz(core::Context& context, const QuizEntry& entry) : Qui
         const ShownField& field = entry.shown[i];
         const QRect& place = places[i];
         Label& label = addLabel(QLatin1String(field.control), place, roleOf(field.look));
-        dress(label, field.look);
+        applyLook(label, field.look);
         shown_.push_back(&label);
         if (field.look != Look::Choice)
             continue;
@@ -135,7 +135,7 @@ void QuestionQuiz::chooseByDigit(int number) {
 
 Label& QuestionQuiz::addSlot(const char* name, const QRect& place, const QString& spoken) {
     Label& slot = addLabel(QLatin1String(name), place, TextRole::Choice);
-    dress(slot, Look::Slot);
+    applyLook(slot, Look::Slot);
     slot.setAccessibleName(spoken);
     return slot;
 }

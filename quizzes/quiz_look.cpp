@@ -21,7 +21,7 @@ TextRole roleOf(Look look) {
     return TextRole::Choice;
 }
 
-void dress(Label& label, Look look) {
+void applyLook(Label& label, Look look) {
     label.setWordWrap(true);
     label.setAlignment(Qt::AlignCenter);
     if (look == Look::Choice)
@@ -32,7 +32,7 @@ void dress(Label& label, Look look) {
         label.setContentsMargins(padding, 0, padding, 0);
 }
 
-void dress(platform::CommandButton& button) {
+void applyLook(platform::CommandButton& button) {
     QPalette palette = button.palette();
     palette.setColor(QPalette::Button, QColor::fromRgb(platform::colour::choice));
     palette.setColor(QPalette::ButtonText, Qt::black);

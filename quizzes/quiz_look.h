@@ -15,10 +15,10 @@ inline constexpr int cardWidth = 788;
 platform::TextRole roleOf(Look look);
 
 /// Dresses a label: its ground, its margins, the way its text stands.
-void dress(platform::Label& label, Look look);
+void applyLook(platform::Label& label, Look look);
 
 /// Dresses a button that is a choice.
-void dress(platform::CommandButton& button);
+void applyLook(platform::CommandButton& button);
 
 /// Makes a label look and behave like something to click.
 void makeClickable(platform::Label& label);

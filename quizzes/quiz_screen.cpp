@@ -114,7 +114,7 @@ void QuizScreen::openRows(const char* order) {
         sql += QStringLiteral(" order by ") + QLatin1String(order);
     quizRs = contentDb.openRecordset(sql);
     if (quizRs.isEmpty())
-        failRows(platform::Fault::NoCurrentRecord,
+        failRows(platform::ErrorCode::NoCurrentRecord,
                  QStringLiteral("there are no questions for topicno %1 and recordno %2 in quiz_data_new3.")
                      .arg(s.topicNo)
                      .arg(s.recordNo));
@@ -125,7 +125,7 @@ QString QuizScreen::rowScope() const {
 }
 
 void QuizScreen::shuffle(std::span<const char* const> orders, const char* emptied) {
-    platform::Batch batch(contentDb);
+    platform::Transaction transaction(contentDb);
     for (quizRs.moveFirst(); !quizRs.eof(); quizRs.moveNext()) {
         quizRs.edit();
         for (const char* order : orders)
@@ -140,22 +140,22 @@ void QuizScreen::shuffle(std::span<const char* const> orders, const char* emptie
     for (const char* order : orders)
         if (order != nullptr)
             course::shuffleRows(context(), quizRs, QLatin1String(order), itemTotal, rowScope());
-    batch.commit();
+    transaction.commit();
 }
 
 QString QuizScreen::required(const char* field) const {
     const platform::Value& content = quizRs.value(QLatin1String(field));
     if (content.isNull())
-        failRows(platform::Fault::InvalidUseOfNull,
+        failRows(platform::ErrorCode::InvalidUseOfNull,
                  QStringLiteral("the question \"%1\" has no value in its field %2.")
                      .arg(quizRs.textOrEmpty(QStringLiteral("q1")), QLatin1String(field)));
     return content.toText();
 }
 
-void QuizScreen::failRows(platform::Fault fault, const QString& what) const {
-    throw platform::RuntimeError(fault, QStringLiteral("Step %1 (%2): %3 (%4)")
-                                            .arg(session().recordNo)
-                                            .arg(objectName(), what, quizRs.description()));
+void QuizScreen::failRows(platform::ErrorCode code, const QString& what) const {
+    throw platform::RuntimeError(code, QStringLiteral("Step %1 (%2): %3 (%4)")
+                                           .arg(session().recordNo)
+                                           .arg(objectName(), what, quizRs.description()));
 }
 
 void QuizScreen::showAnswerLine() {

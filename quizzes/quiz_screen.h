@@ -51,7 +51,7 @@ class QuizScreen : public course::ExerciseScreen {
     /// The text of a field that a question cannot do without.
     QString required(const char* field) const;
     /// Ends the run with a sentence that names the step and what is wrong with its rows.
-    [[noreturn]] void failRows(platform::Fault fault, const QString& what) const;
+    [[noreturn]] void failRows(platform::ErrorCode code, const QString& what) const;
 
     /// Whether the box of an answer holds it from the start.
     bool fillsForTeacher() const {

@@ -83,9 +83,10 @@ void TableQuiz::buildRow(int row) {
             continue;
         }
         Label& label = addLabel(controls.labels, place, TextRole::Row);
-        dress(label, isPlain(column.kind)                                                   ? Look::Line
-                     : column.kind == ColumnKind::Answer || column.kind == ColumnKind::Slot ? Look::Slot
-                                                                                            : Look::Choice);
+        applyLook(label, isPlain(column.kind) ? Look::Line
+                         : column.kind == ColumnKind::Answer || column.kind == ColumnKind::Slot
+                             ? Look::Slot
+                             : Look::Choice);
         if (isPlain(column.kind))
             label.setAlignment(Qt::AlignLeft | Qt::AlignVCenter);
         if (column.judged != nullptr)
@@ -131,7 +132,7 @@ void TableQuiz::raiseItemNo() {
 
 void TableQuiz::requireRoom() const {
     if (itemTotal > tableRows)
-        failRows(platform::Fault::SubscriptOutOfRange,
+        failRows(platform::ErrorCode::SubscriptOutOfRange,
                  QStringLiteral("it has %1 questions, and the screen has room for %2.")
                      .arg(itemTotal)
                      .arg(tableRows));
@@ -208,10 +209,10 @@ int TableQuiz::judgeRows() {
 }
 
 void TableQuiz::checkTable(const CheckManner& manner) {
-    platform::Batch batch(contentDb);
+    platform::Transaction transaction(contentDb);
     beforeJudging();
     const int wrong = judgeRows();
-    batch.commit();
+    transaction.commit();
     if (wrong == 0) {
         finish(manner, fullScore);
         return;

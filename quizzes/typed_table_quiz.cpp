@@ -38,13 +38,13 @@ platform::Recordset TypedTableQuiz::openList(const BoxColumn& boxColumn) const {
 }
 
 void TypedTableQuiz::openLists() {
-    platform::Batch batch(contentDb);
+    platform::Transaction transaction(contentDb);
     for (BoxColumn& boxColumn : boxColumns_) {
         boxColumn.wrong = openList(boxColumn);
         platform::deleteAll(boxColumn.wrong);
         boxColumn.wrongCount = 0;
     }
-    batch.commit();
+    transaction.commit();
 }
 
 void TypedTableQuiz::closeRecordsets() {

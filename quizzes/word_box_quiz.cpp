@@ -53,18 +53,18 @@ void WordBoxQuiz::showQuestion(bool) {
 
 Int16 WordBoxQuiz::readBlankCount() const {
     const QString count = required("q3");
-    const auto fail = [&](platform::Fault fault) {
-        failRows(fault, QStringLiteral("the question \"%1\" asks for %2 boxes in q3, and the screen has %3.")
-                            .arg(required("q1"), count, QString::number(boxCount)));
+    const auto fail = [&](platform::ErrorCode code) {
+        failRows(code, QStringLiteral("the question \"%1\" asks for %2 boxes in q3, and the screen has %3.")
+                           .arg(required("q1"), count, QString::number(boxCount)));
     };
     Int16 asked;
     try {
         asked = platform::textToInt16(count);
     } catch (const platform::RuntimeError& error) {
-        fail(error.fault());
+        fail(error.code());
     }
     if (asked > boxCount)
-        fail(platform::Fault::SubscriptOutOfRange);
+        fail(platform::ErrorCode::SubscriptOutOfRange);
     return asked;
 }
 
@@ -113,7 +113,7 @@ Verdict WordBoxQuiz::judgeBoxes() {
     const QString a1 = answer(0);
     const qsizetype words = answerWords(a1).size();
     if (words > boxCount)
-        failRows(platform::Fault::SubscriptOutOfRange,
+        failRows(platform::ErrorCode::SubscriptOutOfRange,
                  QStringLiteral("the answer \"%1\" has %2 words, and the screen has room for %3.")
                      .arg(a1, QString::number(words), QString::number(boxCount)));
     QStringList typed;

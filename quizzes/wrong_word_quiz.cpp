@@ -28,7 +28,7 @@ WrongWordQuiz::WrongWordQuiz(core::Context& context, const QuizEntry& entry) : Q
     for (int i = 0; i < wordCount; ++i) {
         Label& word =
             addLabel(lblWord2_, QRect(cardLeft, wordsTop, leastWordWidth, wordHeight), TextRole::Choice);
-        dress(word, Look::Choice);
+        applyLook(word, Look::Choice);
         word.setWordWrap(false);
         makeClickable(word);
         word.onClick = [this, i] { wordClicked(i); };
@@ -58,7 +58,7 @@ void WrongWordQuiz::ShowSentence(const QString& sentence) {
         word->hide();
     const QStringList words = cutSentence(sentence);
     if (words.size() > wordCount)
-        failRows(platform::Fault::SubscriptOutOfRange,
+        failRows(platform::ErrorCode::SubscriptOutOfRange,
                  QStringLiteral("the sentence \"%1\" has %2 words, and the screen has room for %3.")
                      .arg(sentence, QString::number(words.size()), QString::number(wordCount)));
     for (qsizetype i = 0; i < words.size(); ++i)

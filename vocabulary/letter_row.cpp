@@ -23,7 +23,7 @@ bool isLetterKey(const QKeyEvent& event) {
     return !event.text().isEmpty() && event.text().at(0).isPrint();
 }
 
-void dress(TextBox& box, bool inHand) {
+void applyLook(TextBox& box, bool inHand) {
     if (const QRgb colour = ground(box, inHand); box.backColor() != colour)
         box.setBackColor(colour);
 }
@@ -92,9 +92,9 @@ void LetterRow::stepBack(int index, int keyCode) {
 bool LetterRow::eventFilter(QObject* watched, QEvent* event) {
     auto& box = static_cast<TextBox&>(*watched);
     switch (event->type()) {
-        case QEvent::FocusIn: dress(box, true); break;
-        case QEvent::FocusOut: dress(box, false); break;
-        case QEvent::ReadOnlyChange: dress(box, box.hasFocus()); break;
+        case QEvent::FocusIn: applyLook(box, true); break;
+        case QEvent::FocusOut: applyLook(box, false); break;
+        case QEvent::ReadOnlyChange: applyLook(box, box.hasFocus()); break;
         // A full box would refuse the key where an arrow has taken the selection off its letter.
         case QEvent::KeyPress:
             if (isLetterKey(*static_cast<QKeyEvent*>(event)) && !box.hasSelectedText())

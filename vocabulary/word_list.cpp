@@ -13,16 +13,16 @@ const QString orderNo = QStringLiteral("orderno");
 }  // namespace
 
 void emptyTable(const Database& store, const QString& table) {
-    platform::Batch batch(store);
+    platform::Transaction transaction(store);
     Recordset rows = store.openRecordset(QStringLiteral("Select * from ") + table);
     platform::deleteAll(rows);
-    batch.commit();
+    transaction.commit();
 }
 
 void copyWords(Recordset& book, const Database& store, const QString& table,
                const std::function<bool(const QString& word)>& keeps,
                const std::function<void(Recordset& row)>& others) {
-    platform::Batch batch(store);
+    platform::Transaction transaction(store);
     Recordset rows = store.openRecordset(QStringLiteral("Select * from ") + table);
     for (; !book.eof(); book.moveNext()) {
         if (keeps && !keeps(book.textOrEmpty(word)))
@@ -34,7 +34,7 @@ void copyWords(Recordset& book, const Database& store, const QString& table,
             others(rows);
         rows.update();
     }
-    batch.commit();
+    transaction.commit();
 }
 
 int countRows(Recordset& rows) {

@@ -91,11 +91,11 @@ void WordMatching::buildColumns() {
         const int top = 172 + i * 51;
         Label& word = addLabel(lblWord_, QRect(44, top, 286, 43), TextRole::Letter);
         word.onClick = [this, i] { wordClicked(i); };
-        dress(word, 14);
+        applyLook(word, 14);
         Label& definition = addLabel(lblDefinition_, QRect(364, top, 460, 43), TextRole::Letter);
         definition.onClick = [this, i] { definitionClicked(i); };
         definition.onMouseMove = [this, i] { definitionHovered(i); };
-        dress(definition, 14);
+        applyLook(definition, 14);
     }
     setHandCursor(lblWord_(0), QStringLiteral("harrow.cur"));
     for (int i = 0; i < pairsPerPage; ++i) {
@@ -132,7 +132,7 @@ void WordMatching::fillWorkingList() {
 }
 
 void WordMatching::MakeFirstPage() {
-    platform::Batch batch(matchDb_);
+    platform::Transaction transaction(matchDb_);
     matchRs_ = matchDb_.openRecordset(allRows);
     matchTotal_ = countRows(matchRs_);
     for (; !matchRs_.eof(); matchRs_.moveNext()) {
@@ -148,7 +148,7 @@ void WordMatching::MakeFirstPage() {
     matchTotal_ = countRows(matchRs_);
     lblTotal_->setCaption(QString::number(matchTotal_));
     drawPageOrder(firstPage);
-    batch.commit();
+    transaction.commit();
     showPage(firstPage);
     chosenWord_ = 0;
     matchNo_ = 1;
@@ -158,7 +158,7 @@ void WordMatching::MakeFirstPage() {
 void WordMatching::MakeSecondPage() {
     matchPage_ = 2;
     clearColumns();
-    platform::Batch batch(matchDb_);
+    platform::Transaction transaction(matchDb_);
     Recordset rows = matchDb_.openRecordset(allRows);
     for (; !rows.eof(); rows.moveNext()) {
         rows.edit();
@@ -166,7 +166,7 @@ void WordMatching::MakeSecondPage() {
         rows.update();
     }
     drawPageOrder(secondPage);
-    batch.commit();
+    transaction.commit();
     showPage(secondPage);
 }
 

@@ -150,7 +150,7 @@ bool WordQuiz::fillWorkingList() {
     Recordset book = bookDb.openRecordset(QStringLiteral("Select * from word_book"));
     if (book.isEmpty())
         return false;
-    platform::Batch batch(quizDb_);
+    platform::Transaction transaction(quizDb_);
     copyWords(book, quizDb_, QStringLiteral("testword"), {}, [](Recordset& row) { row.set(orderNo, 0); });
     testwordRs_ = quizDb_.openRecordset(QStringLiteral("Select * from testword"));
     const int count = countRows(testwordRs_);
@@ -158,7 +158,7 @@ bool WordQuiz::fillWorkingList() {
     testwordRs_ = quizDb_.openRecordset(QStringLiteral("Select * from testword order by orderno"));
     if (session().stepType != QStringLiteral("Lesson"))
         deleteAbove(testwordRs_, quizStepWords);
-    batch.commit();
+    transaction.commit();
     return true;
 }
 
@@ -171,7 +171,7 @@ QString WordQuiz::wordWithoutRoom() {
 
 void WordQuiz::PrepareQuizList() {
     const platform::Hourglass hourglass;
-    platform::Batch batch(quizDb_);
+    platform::Transaction transaction(quizDb_);
     emptyTable(quizDb_, QStringLiteral("testword2"));
     testword2Rs_ = quizDb_.openRecordset(QStringLiteral("Select * from testword2"));
     for (testwordRs_.moveFirst(); !testwordRs_.eof(); testwordRs_.moveNext()) {
@@ -190,7 +190,7 @@ void WordQuiz::PrepareQuizList() {
     testword2Rs_ = quizDb_.openRecordset(ordered);
     quizTotal_ = countRows(testword2Rs_);
     course::shuffleRows(context(), testword2Rs_, orderNo, quizTotal_);
-    batch.commit();
+    transaction.commit();
     testword2Rs_ = quizDb_.openRecordset(ordered);
     testword2Rs_.moveFirst();
     lblTotal_->setCaption(QString::number(quizTotal_));

@@ -167,11 +167,11 @@ void WorksheetMenu::ChooseStep() {
 }
 
 bool WorksheetMenu::fillTables(int recordNo, int pageNo, const QString& guide) {
-    platform::Batch batch(courseDb_);
+    platform::Transaction transaction(courseDb_);
     reportRs_ = courseDb_.openRecordset(QStringLiteral("Select * From tablework_final"));
     writeHeader(recordNo, pageNo, guide);
     const BuildResult result = buildSheet(courseDb_, session().topicNo, recordNo);
-    batch.commit();
+    transaction.commit();
     if (result == BuildResult::Built)
         return true;
     context().boxes.notice(

@@ -48,7 +48,7 @@ void endWithBox(const std::exception& failure) {
     auto* box = new QMessageBox(QMessageBox::Critical, defaultBoxTitle(), text, QMessageBox::Ok, below,
                                 Qt::Dialog | Qt::MSWindowsFixedSizeDialogHint | Qt::WindowStaysOnTopHint);
     box->setObjectName(QStringLiteral("errorBox"));
-    dressBox(*box);
+    styleBox(*box);
     box->exec();
     // At once, and without unwinding: what was stored is stored, and nothing of the failed handler runs on.
     std::_Exit(1);
@@ -96,14 +96,14 @@ bool Application::notify(QObject* receiver, QEvent* event) {
 
 int Application::run(const std::function<bool()>& start) {
     int status = 0;
-    guarded([&] {
+    endOnFailure([&] {
         if (start() && !toEnd_)
             status = exec();
     });
     return status;
 }
 
-void Application::guarded(const std::function<void()>& work) {
+void Application::endOnFailure(const std::function<void()>& work) {
     try {
         work();
     } catch (const std::exception& failure) {

@@ -18,7 +18,7 @@ class Application : public QApplication {
     /// Runs `start` and, where it gives true, the event loop until the program ends. Gives the exit status.
     int run(const std::function<bool()>& start);
     /// Runs `work` under the same rule as an event handler.
-    void guarded(const std::function<void()>& work);
+    void endOnFailure(const std::function<void()>& work);
 
     /// What happens to a failure. The default shows it once in a critical box, tells it on standard error
     /// and ends the process with status 1.

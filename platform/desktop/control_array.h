@@ -28,7 +28,7 @@ class ControlArray {
     Control& operator()(int index) const {
         if (index < 0 || index >= size())
             throw RuntimeError(
-                Fault::SubscriptOutOfRange,
+                ErrorCode::SubscriptOutOfRange,
                 QStringLiteral("Subscript out of range: there is no %1.").arg(memberName(index)));
         return *controls_[static_cast<std::size_t>(index)];
     }

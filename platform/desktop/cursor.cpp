@@ -22,12 +22,13 @@ constexpr int hotSpotOffset = 10;
 QCursor loadCursor(const QString& file, const QString& shownName) {
     QFile opened(file);
     if (!opened.open(QIODevice::ReadOnly))
-        throw RuntimeError(Fault::FileNotFound,
+        throw RuntimeError(ErrorCode::FileNotFound,
                            QStringLiteral("File not found: '%1' (%2).").arg(shownName, file));
     const QByteArray bytes = opened.readAll();
     QImage image;
     if (bytes.size() < hotSpotOffset + 4 || !image.loadFromData(bytes))
-        throw RuntimeError(Fault::InvalidPicture, QStringLiteral("Invalid picture: '%1'.").arg(shownName));
+        throw RuntimeError(ErrorCode::InvalidPicture,
+                           QStringLiteral("Invalid picture: '%1'.").arg(shownName));
     QDataStream stream(bytes.mid(hotSpotOffset, 4));
     stream.setByteOrder(QDataStream::LittleEndian);
     quint16 x = 0;
@@ -50,7 +51,8 @@ void writeCursor(const QString& file, const QImage& image, QPoint hotSpot) {
     const QString reason =
         drawn ? writeWhole(file, head + png) : QStringLiteral("the picture cannot be drawn");
     if (!reason.isEmpty())
-        throw RuntimeError(Fault::FileNotFound, QStringLiteral("Cannot write '%1': %2.").arg(file, reason));
+        throw RuntimeError(ErrorCode::FileNotFound,
+                           QStringLiteral("Cannot write '%1': %2.").arg(file, reason));
 }
 
 Hourglass::Hourglass() {

@@ -55,7 +55,7 @@ QString defaultBoxTitle() {
     return QStringLiteral("Tovalin 1");
 }
 
-void dressBox(QMessageBox& box) {
+void styleBox(QMessageBox& box) {
     // The texts name buttons as "<Begin>", which must not be taken for markup.
     box.setTextFormat(Qt::PlainText);
     // Where no window manager draws a border, the box must still stand out from the paper below.
@@ -72,7 +72,7 @@ bool DesktopBoxes::show(const Message& message) {
     // Not on the stack: the window that asks owns the box, and takes it along should it go.
     const QPointer<Box> box = new Box(message.yesNo, asking);
     box->setObjectName(QStringLiteral("messageBox"));
-    dressBox(*box);
+    styleBox(*box);
     box->setText(message.text);
     box->setInformativeText(message.advice);
     box->setIcon(boxIcon(message.icon));

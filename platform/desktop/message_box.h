@@ -51,7 +51,7 @@ class DesktopBoxes final : public MessageBoxes {
 };
 
 /// Gives a box window the course's look and shows its text as it stands.
-void dressBox(QMessageBox& box);
+void styleBox(QMessageBox& box);
 
 /// The title of a message that has none of its own.
 QString defaultBoxTitle();

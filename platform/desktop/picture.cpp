@@ -67,7 +67,7 @@ struct Chosen {
 Chosen choose(const QString& file, const QString& shownName, double pixelRatio) {
     Chosen chosen{QFileInfo(file)};
     if (!chosen.info.isFile())
-        throw RuntimeError(Fault::FileNotFound,
+        throw RuntimeError(ErrorCode::FileNotFound,
                            QStringLiteral("File not found: '%1' (%2).").arg(shownName, file));
     chosen.dense = pixelRatio > 1.0 && QFileInfo::exists(denseTwin(chosen.info));
     if (chosen.dense)
@@ -81,10 +81,10 @@ QPixmap decode(const Chosen& chosen, const QString& shownName) {
     const QImage image = reader.read();
     if (image.isNull())
         throw RuntimeError(
-            Fault::InvalidPicture,
+            ErrorCode::InvalidPicture,
             QStringLiteral("Invalid picture: '%1' (%2).").arg(shownName, reader.errorString()));
     if (isCutOff(path))
-        throw RuntimeError(Fault::InvalidPicture,
+        throw RuntimeError(ErrorCode::InvalidPicture,
                            QStringLiteral("Invalid picture: '%1' (it was cut off).").arg(shownName));
     QPixmap picture = QPixmap::fromImage(image);
     if (chosen.dense)

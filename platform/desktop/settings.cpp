@@ -46,9 +46,10 @@ void UserSettings::write(const QString& application, const QString& section, con
 #else
     const QString file = settingsPlace(application);
     if (const QString trouble = settingsTrouble(application); !trouble.isEmpty())
-        throw RuntimeError(Fault::FileNotFound, QStringLiteral("Cannot change '%1': %2.").arg(file, trouble));
+        throw RuntimeError(ErrorCode::FileNotFound,
+                           QStringLiteral("Cannot change '%1': %2.").arg(file, trouble));
     if (!writeIni(file, section, key, value))
-        throw RuntimeError(Fault::FileNotFound, QStringLiteral("Cannot write '%1'.").arg(file));
+        throw RuntimeError(ErrorCode::FileNotFound, QStringLiteral("Cannot write '%1'.").arg(file));
 #endif
 }
 

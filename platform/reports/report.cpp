@@ -14,12 +14,12 @@ Report::Report(const QString& name, const Drives& drives, MessageBoxes& boxes, Q
 
 void Report::setOutput(int output) {
     if (output != ToWindow)
-        throw RuntimeError(Fault::InvalidCall, QStringLiteral("Reports have no output %1.").arg(output));
+        throw RuntimeError(ErrorCode::InvalidCall, QStringLiteral("Reports have no output %1.").arg(output));
 }
 
 void Report::prepare() {
     if (file_.isEmpty())
-        throw RuntimeError(Fault::FileNotFound,
+        throw RuntimeError(ErrorCode::FileNotFound,
                            QStringLiteral("Report file not found: no report was chosen."));
     const ReportTemplate report = readReportTemplate(drives_, file_);
     prepared_ = layOutReport(report, readReportData(drives_, report));
@@ -27,7 +27,7 @@ void Report::prepare() {
 
 void Report::start() {
     if (!prepared_)
-        throw RuntimeError(Fault::InvalidCall,
+        throw RuntimeError(ErrorCode::InvalidCall,
                            QStringLiteral("A report was started before it was prepared."));
     auto* window = new ReportPreview(std::move(*prepared_), boxes_, printers, owner_);
     prepared_.reset();

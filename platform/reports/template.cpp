@@ -246,7 +246,7 @@ void readInto(const Drives& drives, const QString& path, ReportTemplate& report,
     const QString file = drives.resolve(path);
     QFile opened(file);
     if (!opened.open(QIODevice::ReadOnly))
-        throw RuntimeError(Fault::FileNotFound,
+        throw RuntimeError(ErrorCode::FileNotFound,
                            QStringLiteral("Report file not found: '%1' (%2).").arg(path, file));
     const toml::table table = parse(opened.readAll(), path);
     if (const toml::node* include = table.get("include")) {
@@ -266,7 +266,7 @@ void readInto(const Drives& drives, const QString& path, ReportTemplate& report,
 
 void throwBrokenReport(const QString& file, int line, const QString& reason) {
     throw RuntimeError(
-        Fault::SyntaxError,
+        ErrorCode::SyntaxError,
         QStringLiteral("The report '%1' is broken in line %2: %3").arg(file).arg(line).arg(reason));
 }
 

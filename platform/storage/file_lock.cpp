@@ -34,7 +34,7 @@ int openLock(const QString& file) {
     struct stat found {};
     const bool isThere = stat(name.constData(), &found) == 0;
     if (isThere && !S_ISREG(found.st_mode))
-        throw RuntimeError(Fault::DatabaseFailure,
+        throw RuntimeError(ErrorCode::DatabaseFailure,
                            QStringLiteral("'%1' is no file and cannot be locked. Remove it.").arg(file));
     int handle = open(name.constData(), O_RDWR | O_CREAT | O_CLOEXEC, 0666);
     // A file of somebody else's can be locked as well.
@@ -42,7 +42,7 @@ int openLock(const QString& file) {
         handle = open(name.constData(), O_RDONLY | O_CLOEXEC);
     if (handle < 0 && isThere)
         throw RuntimeError(
-            Fault::DatabaseFailure,
+            ErrorCode::DatabaseFailure,
             QStringLiteral("'%1' cannot be opened: %2. Remove it, it is empty, or let its owner "
                            "make it readable.")
                 .arg(file, qt_error_string(errno)));

@@ -32,7 +32,7 @@ qsizetype findOutsideQuotes(const QString& sql, const QString& words) {
 Query Query::parse(const QString& sql) {
     const auto match = head().match(sql);
     if (!match.hasMatch())
-        throw RuntimeError(Fault::SyntaxError, QStringLiteral("Syntax error in query: %1").arg(sql));
+        throw RuntimeError(ErrorCode::SyntaxError, QStringLiteral("Syntax error in query: %1").arg(sql));
     Query query;
     query.table = match.captured(1);
     QString rest = match.captured(2).trimmed();
@@ -45,7 +45,7 @@ Query Query::parse(const QString& sql) {
     if (rest.startsWith(whereWord, Qt::CaseInsensitive))
         query.where = rest.mid(whereWord.size()).trimmed();
     else if (!rest.isEmpty())
-        throw RuntimeError(Fault::SyntaxError, QStringLiteral("Syntax error in query: %1").arg(sql));
+        throw RuntimeError(ErrorCode::SyntaxError, QStringLiteral("Syntax error in query: %1").arg(sql));
     return query;
 }
 

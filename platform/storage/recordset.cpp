@@ -1,7 +1,7 @@
 #include "platform/storage/recordset.h"
 
 #include "platform/error.h"
-#include "platform/storage/connection_guard.h"
+#include "platform/storage/connection.h"
 #include "platform/storage/database.h"
 #include "platform/storage/sql_value.h"
 
@@ -52,14 +52,15 @@ void Recordset::dropEdit() {
 
 void Recordset::requireOpen() const {
     if (!connection_)
-        throw RuntimeError(Fault::InvalidCall, QStringLiteral("A set of rows was used that is not open."));
+        throw RuntimeError(ErrorCode::InvalidCall,
+                           QStringLiteral("A set of rows was used that is not open."));
 }
 
 void Recordset::moveFirst() {
     requireOpen();
     if (const auto first = members_.nextLive(0))
         return settle(*first);
-    throw RuntimeError(Fault::NoCurrentRecord,
+    throw RuntimeError(ErrorCode::NoCurrentRecord,
                        QStringLiteral("No current record: there is no row in %1.").arg(description()));
 }
 
@@ -88,7 +89,7 @@ void Recordset::moveNext() {
     if (place_ == Place::Before)
         return moveFirst();
     if (place_ == Place::After)
-        throw RuntimeError(Fault::NoCurrentRecord,
+        throw RuntimeError(ErrorCode::NoCurrentRecord,
                            QStringLiteral("No current record: past the last row of %1.").arg(description()));
     if (const auto next = members_.nextLive(currentIndex() + 1))
         return settle(*next);
@@ -133,7 +134,7 @@ void Recordset::addNew() {
 
 void Recordset::update() {
     if (mode_ == Mode::Read)
-        throw RuntimeError(Fault::InvalidCall,
+        throw RuntimeError(ErrorCode::InvalidCall,
                            QStringLiteral("Update without an edit on %1.").arg(description()));
     if (mode_ == Mode::Add)
         insertRow();
@@ -153,7 +154,7 @@ void Recordset::insertRow() {
                             ? QStringLiteral("INSERT INTO \"%1\" DEFAULT VALUES").arg(query().table)
                             : QStringLiteral("INSERT INTO \"%1\" (%2) VALUES (%3)")
                                   .arg(query().table, columns.join(u','), marks.join(u','));
-    connection_->guarded([&] {
+    connection_->translateErrors([&] {
         const auto statement = connection_->prepare(sql);
         int position = 0;
         for (const auto& [index, value] : pending_)
@@ -177,7 +178,7 @@ void Recordset::updateRow() {
     QStringList assignments;
     for (const auto& [index, value] : pending_)
         assignments.append(QStringLiteral("\"%1\"=?").arg(shape_->columns[index]));
-    connection_->guarded([&] {
+    connection_->translateErrors([&] {
         const auto statement = connection_->prepare(QStringLiteral("UPDATE \"%1\" SET %2 WHERE _rowid_=?")
                                                         .arg(query().table, assignments.join(u',')));
         int position = 0;
@@ -193,7 +194,7 @@ void Recordset::remove() {
     members_.readAll();
     const std::size_t index = currentIndex();
     dropEdit();
-    connection_->guarded([&] {
+    connection_->translateErrors([&] {
         const auto statement =
             connection_->prepare(QStringLiteral("DELETE FROM \"%1\" WHERE _rowid_=?").arg(query().table));
         statement->bind(1, key_);
@@ -223,7 +224,7 @@ int Recordset::fieldIndex(const QString& field) const {
     requireOpen();
     const int index = findField(field);
     if (index < 0)
-        throw RuntimeError(Fault::ItemNotFound,
+        throw RuntimeError(ErrorCode::ItemNotFound,
                            QStringLiteral("There is no field '%1' in %2.").arg(field, description()));
     return index;
 }
@@ -240,7 +241,7 @@ const Value& Recordset::value(int index) const {
     }
     requireCurrent();
     if (index < 0 || index >= fieldCount())
-        throw RuntimeError(Fault::ItemNotFound,
+        throw RuntimeError(ErrorCode::ItemNotFound,
                            QStringLiteral("There is no field %1 in %2.").arg(index).arg(description()));
     if (mode_ == Mode::Edit)
         if (const auto set = pending_.find(index); set != pending_.end())
@@ -249,7 +250,7 @@ const Value& Recordset::value(int index) const {
     const Value& content = row_[static_cast<std::size_t>(index)];
     if (const auto* text = std::get_if<QString>(&content.content());
         text != nullptr && text->size() > longestText)
-        throw RuntimeError(Fault::DatabaseFailure,
+        throw RuntimeError(ErrorCode::DatabaseFailure,
                            QStringLiteral("A text of %1 letters is too long, %2 can be shown (%3).")
                                .arg(text->size())
                                .arg(longestText)
@@ -260,12 +261,12 @@ const Value& Recordset::value(int index) const {
 void Recordset::fetch() const {
     if (rowKey_ == key_ && rowChanges_ == connection_->totalChanges() && !row_.empty())
         return;
-    connection_->guarded([&] {
+    connection_->translateErrors([&] {
         const auto statement = connection_->prepare(rowQuery(query().table));
         statement->bind(1, key_);
         if (!statement->executeStep())
             throw RuntimeError(
-                Fault::NoCurrentRecord,
+                ErrorCode::NoCurrentRecord,
                 QStringLiteral("No current record: a row of %1 was deleted.").arg(description()));
         row_.clear();
         for (int i = 0; i < statement->getColumnCount(); ++i)
@@ -282,7 +283,7 @@ auto Recordset::explain(const QString& field, Read read) const {
     try {
         return read(content);
     } catch (const RuntimeError& error) {
-        throw RuntimeError(error.fault(), QStringLiteral("%1 (%2)").arg(error.sentence(), location(field)));
+        throw RuntimeError(error.code(), QStringLiteral("%1 (%2)").arg(error.sentence(), location(field)));
     }
 }
 
@@ -311,10 +312,10 @@ void Recordset::set(const QString& field, const Value& value) {
 void Recordset::set(int index, const Value& value) {
     requireOpen();
     if (mode_ == Mode::Read)
-        throw RuntimeError(Fault::InvalidCall,
+        throw RuntimeError(ErrorCode::InvalidCall,
                            QStringLiteral("A field of %1 was set without an edit.").arg(description()));
     if (index < 0 || index >= fieldCount())
-        throw RuntimeError(Fault::ItemNotFound,
+        throw RuntimeError(ErrorCode::ItemNotFound,
                            QStringLiteral("There is no field %1 in %2.").arg(index).arg(description()));
     pending_[index] = value;
 }
@@ -333,7 +334,7 @@ QString Recordset::description() const {
 void Recordset::requireCurrent() const {
     requireOpen();
     if (place_ != Place::At)
-        throw RuntimeError(Fault::NoCurrentRecord,
+        throw RuntimeError(ErrorCode::NoCurrentRecord,
                            QStringLiteral("No current record in %1.").arg(description()));
 }
 

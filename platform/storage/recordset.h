@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/storage/member_list.h"
+#include "platform/storage/keyset.h"
 #include "platform/storage/value.h"
 
 #include <QString>
@@ -104,7 +104,7 @@ class Recordset {
 
     std::shared_ptr<Connection> connection_;
     std::shared_ptr<const TableShape> shape_;
-    MemberList members_;
+    Keyset members_;
     Place place_ = Place::After;
     std::int64_t key_ = 0;
     std::optional<std::size_t> index_;  // unknown after a jump inside a set not yet read to its end

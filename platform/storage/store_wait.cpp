@@ -64,7 +64,7 @@ void StoreWait::showBox() {
         QMessageBox::Cancel, below);
     box_->setObjectName(QStringLiteral("storeWaitBox"));
     box_->setWindowModality(Qt::ApplicationModal);
-    dressBox(*box_);
+    styleBox(*box_);
     box_->show();
 }
 

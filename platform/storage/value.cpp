@@ -7,7 +7,7 @@ namespace platform {
 namespace {
 
 [[noreturn]] void throwNull() {
-    throw RuntimeError(Fault::InvalidUseOfNull,
+    throw RuntimeError(ErrorCode::InvalidUseOfNull,
                        QStringLiteral("Invalid use of Null: the field has no value."));
 }
 

@@ -6,7 +6,7 @@
 #include <QFile>
 
 using support::Desk;
-using support::faultOf;
+using support::errorOf;
 
 namespace {
 
@@ -83,10 +83,10 @@ TEST(Stores, AMissingStoreOrTableEndsInTheProgramsOwnError) {
     Desk desk;
     QFile::remove(desk.file("D:\\testword_2013.mdb"));
     QString sentence;
-    EXPECT_EQ(faultOf([&] { core::openTestWords(desk.context()); }, &sentence), 3024);
+    EXPECT_EQ(errorOf([&] { core::openTestWords(desk.context()); }, &sentence), 3024);
     EXPECT_TRUE(sentence.contains("testword_2013.mdb"));
     desk.exec(support::courseStore, "drop table topic");
-    EXPECT_EQ(faultOf([&] { core::openCourse(desk.context()).openRecordset("Select * from topic"); }), 3078);
+    EXPECT_EQ(errorOf([&] { core::openCourse(desk.context()).openRecordset("Select * from topic"); }), 3078);
 }
 
 TEST(Stores, AScoreRowThatIsNotThereReadsAsNotDone) {

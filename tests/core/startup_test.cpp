@@ -9,7 +9,7 @@
 #include <QScreen>
 
 using support::Desk;
-using support::faultOf;
+using support::errorOf;
 
 namespace {
 
@@ -197,7 +197,7 @@ TEST_F(StartUpTest, AStoreThatCannotBeOpenedEndsTheRunThere) {
         desk.session = core::Session();
         QFile::remove(desk.file(QLatin1String(one.path)));
         QString sentence;
-        EXPECT_EQ(faultOf([&] { start(); }, &sentence), 3024);
+        EXPECT_EQ(errorOf([&] { start(); }, &sentence), 3024);
         EXPECT_TRUE(sentence.contains(QLatin1String(one.path))) << sentence.toStdString();
         EXPECT_EQ(frame.isVisible(), one.frameUp) << one.path;
     }
@@ -260,7 +260,7 @@ TEST_F(StartUpTest, ARootThatIsNoFolderOrClosedIsToldBesideTheWarning) {
                                       desk.clock,   desk.random, desk.sound,
                                       desk.boxes,   navigator,   QStringLiteral("D:\\")};
         QString sentence;
-        EXPECT_NE(faultOf([&] { core::StartUp(elsewhere, frame); }, &sentence), 0)
+        EXPECT_NE(errorOf([&] { core::StartUp(elsewhere, frame); }, &sentence), 0)
             << "there is no dictionary";
         ASSERT_EQ(desk.boxes.texts(), QStringList{"Please Insert USB Drive"});
         const QString advice = desk.boxes.shown[0].advice;

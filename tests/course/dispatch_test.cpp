@@ -7,7 +7,7 @@
 #include <QFile>
 
 using support::Desk;
-using support::faultOf;
+using support::errorOf;
 using support::scoreStore;
 
 namespace {
@@ -136,5 +136,5 @@ TEST_F(DispatchTest, AFinishedVideoStepHoldsNobodyBack) {
 TEST_F(DispatchTest, AMissingScoreStoreEndsTheRunAfterTheVideo) {
     QFile::remove(desk.file(scoreStore));
     show("frmLesson3", 45);
-    EXPECT_EQ(faultOf([&] { navigator.closeLast(); }), 3024);
+    EXPECT_EQ(errorOf([&] { navigator.closeLast(); }), 3024);
 }

@@ -14,7 +14,7 @@ using support::addQuestions;
 using support::addSteps;
 using support::courseStore;
 using support::Desk;
-using support::faultOf;
+using support::errorOf;
 using support::StepRow;
 
 namespace {
@@ -139,10 +139,10 @@ TEST_F(PrepareFinal, TheStoreIsFoundOnlyWhereTheApplicationFolderIsADrivesRoot) 
         QFile::copy(desk.root() + "/D/" + QLatin1String(store),
                     desk.root() + "/D/Course/" + QLatin1String(store));
     QString sentence;
-    EXPECT_EQ(faultOf([&] { prepare(94, 7); }, &sentence), 3024);
+    EXPECT_EQ(errorOf([&] { prepare(94, 7); }, &sentence), 3024);
     EXPECT_TRUE(sentence.contains("D:\\Coursetovalin.mdb")) << sentence.toStdString();
     QFile::copy(desk.root() + "/D/tovalin.mdb", desk.root() + "/D/Coursetovalin.mdb");
-    EXPECT_EQ(faultOf([&] { prepare(94, 7); }), 0);
+    EXPECT_EQ(errorOf([&] { prepare(94, 7); }), 0);
 }
 
 TEST_F(PrepareFinal, ForASheetTheSameWorkIsDoneInTheCopyAtItsFixedPlace) {

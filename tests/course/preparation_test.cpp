@@ -9,7 +9,7 @@
 using support::addQuestions;
 using support::courseStore;
 using support::Desk;
-using support::faultOf;
+using support::errorOf;
 using support::masterStore;
 using support::wordBookStore;
 
@@ -161,7 +161,7 @@ TEST_F(PrepareStep, AMissingStoreEndsTheRunInTheOrderOfTheWork) {
          {std::pair{courseStore, true}, std::pair{wordBookStore, true}, std::pair{masterStore, true}}) {
         QFile::remove(desk.file(store));
         QString sentence;
-        EXPECT_EQ(faultOf([&] { prepare(5); }, &sentence), 3024);
+        EXPECT_EQ(errorOf([&] { prepare(5); }, &sentence), 3024);
         EXPECT_TRUE(sentence.contains(store.section(u'\\', -1))) << sentence.toStdString();
     }
 }
@@ -172,7 +172,7 @@ TEST_F(PrepareStep, AMasterTableWithTooFewColumnsEndsTheRunAndLeavesTheOldConten
               "create table tovalin1_Basic_Data(topicno INTEGER, recordno INTEGER, autono INTEGER);"
               "insert into tovalin1_Basic_Data values(1,5,1)");
     desk.exec(courseStore, "insert into basic_Data(recordno,word1) values(1,'old')");
-    EXPECT_EQ(faultOf([&] { prepare(5); }), 3265);
+    EXPECT_EQ(errorOf([&] { prepare(5); }), 3265);
     EXPECT_EQ(course("select word1 from basic_Data"), QStringList{"old"});
 }
 
@@ -185,7 +185,7 @@ TEST(PrepareStepData, AWordWithoutItsTextIsToldWithItsTableAndRowBeforeTheStepSt
         desk.session.recordNo = 3;
         desk.session.wordNo = 2;
         QString sentence;
-        EXPECT_EQ(support::faultOf([&] { course::PrepareStepData(desk.context()); }, &sentence), 94);
+        EXPECT_EQ(support::errorOf([&] { course::PrepareStepData(desk.context()); }, &sentence), 94);
         for (const QString& part :
              {QStringLiteral("'%1'").arg(QLatin1String(field)), QStringLiteral("'newword'"),
               QStringLiteral("D:\\\\tovalin.mdb"), QStringLiteral("row 2")})
@@ -202,7 +202,7 @@ TEST(PrepareStepData, WhatIsWrongWithAMasterRowIsToldWithTheMasterStore) {
         platform::Database::open(desk.file(courseStore), QStringLiteral("D:\\\\tovalin.mdb"));
     const auto rows = course.openRecordset("Select * from quiz_data_New3 where recordno=5");
     QString sentence;
-    EXPECT_EQ(support::faultOf([&] { rows.text("q1"); }, &sentence), 94);
+    EXPECT_EQ(support::errorOf([&] { rows.text("q1"); }, &sentence), 94);
     EXPECT_TRUE(sentence.contains(
         "filled from table 'tovalin1_quiz_data' of 'D:\\\\Tovalin_Data.mdb' where recordno=5"))
         << sentence.toStdString();

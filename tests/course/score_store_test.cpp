@@ -12,7 +12,7 @@
 #include <optional>
 
 using support::Desk;
-using support::faultOf;
+using support::errorOf;
 using support::scoreStore;
 
 namespace {
@@ -30,7 +30,7 @@ class ScoreStoreTest : public testing::Test {
         desk.session.scoreValue = 85;
     }
     int save(QString* sentence = nullptr) {
-        return faultOf([&] { course::SaveScore(desk.context()); }, sentence);
+        return errorOf([&] { course::SaveScore(desk.context()); }, sentence);
     }
     QStringList stored() const { return desk.rows(scoreStore, "select recordno,s4 from score"); }
     void refuseRows() const {
@@ -117,7 +117,7 @@ TEST_F(ScoreStoreTest, AStepWhoseScoreCouldNotBeSavedIsToldBeforeItStarts) {
         desk.boxes.shown.clear();
         std::optional<support::FileSizeLimit> full(0);
         QString sentence;
-        EXPECT_EQ(faultOf(
+        EXPECT_EQ(errorOf(
                       [&] {
                           if (final)
                               course::PrepareFinalData(desk.context());
@@ -132,12 +132,12 @@ TEST_F(ScoreStoreTest, AStepWhoseScoreCouldNotBeSavedIsToldBeforeItStarts) {
         EXPECT_TRUE(desk.boxes.shown.front().tryAgain);
         EXPECT_EQ(desk.row(support::wordBookStore, "select word from word_book"), "of the step before");
     }
-    EXPECT_EQ(faultOf([&] { course::PrepareStepData(desk.context()); }), 0);
+    EXPECT_EQ(errorOf([&] { course::PrepareStepData(desk.context()); }), 0);
     EXPECT_EQ(desk.rows(support::wordBookStore, "select word from word_book").size(), 0);
 }
 
 TEST_F(ScoreStoreTest, AWorksheetNeedsNoScores) {
     ASSERT_TRUE(QFile::remove(file));
-    EXPECT_EQ(faultOf([&] { course::PrepareStepDataForSheet(desk.context()); }), 0);
+    EXPECT_EQ(errorOf([&] { course::PrepareStepDataForSheet(desk.context()); }), 0);
     EXPECT_TRUE(desk.boxes.shown.empty());
 }

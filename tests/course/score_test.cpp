@@ -6,7 +6,7 @@
 #include <sqlite3.h>
 
 using support::Desk;
-using support::faultOf;
+using support::errorOf;
 using support::scoreStore;
 
 namespace {
@@ -129,7 +129,7 @@ TEST(SaveScore, ASumOfWordScoresBeyondSixteenBitsIsAnOverflow) {
     desk.exec(scoreStore,
               "insert into score(recordno,studentno,program,s2,s3) "
               "values(30,'1001','Tovalin1','0','32767')");
-    EXPECT_EQ(faultOf([&] { save(desk, 2, 1); }), 6);
+    EXPECT_EQ(errorOf([&] { save(desk, 2, 1); }), 6);
 }
 
 TEST(SaveScore, ALearnerWithoutANameHasAnEmptyNameInTheRow) {

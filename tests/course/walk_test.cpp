@@ -12,7 +12,7 @@
 using support::addQuestions;
 using support::addSteps;
 using support::Desk;
-using support::faultOf;
+using support::errorOf;
 using support::StepRow;
 
 namespace {
@@ -80,13 +80,13 @@ TEST_F(WalkTest, FromStep98TheWalkGoesBackTo10AndComesTo98Again) {
 
 TEST_F(WalkTest, TheStepNamedFirstMustExistThoughAnotherIsTaken) {
     addSteps(desk, {{.recordNo = 10}, {.recordNo = 98}, {.recordNo = 101}});
-    EXPECT_EQ(faultOf([&] { nextFrom(98); }), 3021);
+    EXPECT_EQ(errorOf([&] { nextFrom(98); }), 3021);
     EXPECT_TRUE(navigator.asked.empty());
 }
 
 TEST_F(WalkTest, AHoleThatTheTableDoesNotKnowEndsTheRun) {
     addSteps(desk, {{.recordNo = 3}, {.recordNo = 6}});
-    EXPECT_EQ(faultOf([&] { nextFrom(3); }), 3021);
+    EXPECT_EQ(errorOf([&] { nextFrom(3); }), 3021);
 }
 
 TEST_F(WalkTest, AtTheLastStepTheMessageShowsAndOnlyTheFrameRemains) {
@@ -212,7 +212,7 @@ TEST_F(WalkTest, TheStepsOfAFinalAreTakenByPositionInTheirStoredOrder) {
     EXPECT_EQ(session.stepType, "Final");
     EXPECT_EQ(navigator.screens(), QStringList{"frmQuiz9"});
     session.finalStepNo = 4;
-    EXPECT_EQ(faultOf([&] { course::NextFinalStep(context); }), 3021);
+    EXPECT_EQ(errorOf([&] { course::NextFinalStep(context); }), 3021);
 }
 
 TEST_F(WalkTest, AReviewWouldTakeItsOwnNumberWithoutAskingForTheStepBetween) {

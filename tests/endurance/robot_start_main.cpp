@@ -131,7 +131,7 @@ int main(int argc, char** argv) {
     app::Program program;
     Robot robot(program, std::strtoull(argv[1], nullptr, 10), std::atoi(argv[2]));
     int status = 0;
-    application.guarded([&] {
+    application.endOnFailure([&] {
         if (program.start())
             status = platform::Application::exec();
     });

@@ -5,16 +5,16 @@
 
 using platform::Int16;
 using platform::Value;
-using support::faultOf;
+using support::errorOf;
 
 TEST(Int16, ASumBeyondSixteenBitsIsAnOverflow) {
     Int16 number = 32767;
-    EXPECT_EQ(faultOf([&] { ++number; }), 6);
+    EXPECT_EQ(errorOf([&] { ++number; }), 6);
     EXPECT_EQ(number, 32767) << "and the number stays";
-    EXPECT_EQ(faultOf([&] { number += 1; }), 6);
+    EXPECT_EQ(errorOf([&] { number += 1; }), 6);
     number = -32768;
-    EXPECT_EQ(faultOf([&] { number -= 1; }), 6);
-    EXPECT_EQ(faultOf([] { Int16(Int16(20000) + Int16(20000)); }), 6);
+    EXPECT_EQ(errorOf([&] { number -= 1; }), 6);
+    EXPECT_EQ(errorOf([] { Int16(Int16(20000) + Int16(20000)); }), 6);
 }
 
 TEST(Int16, StartsAtZeroAndCountsWithinItsRange) {
@@ -47,8 +47,8 @@ TEST(TextToInt16, ReadsNumbersAndRefusesOtherTexts) {
     EXPECT_EQ(platform::textToInt16(" 37.5 "), 38);
     EXPECT_EQ(platform::textToInt16("-3"), -3);
     for (const char* text : {"", "N/A", "twelve", "1 2", "YES", "nan", "inf"})
-        EXPECT_EQ(faultOf([&] { platform::textToInt16(text); }), 13) << text;
-    EXPECT_EQ(faultOf([] { platform::textToInt16("32768"); }), 6);
+        EXPECT_EQ(errorOf([&] { platform::textToInt16(text); }), 13) << text;
+    EXPECT_EQ(errorOf([] { platform::textToInt16("32768"); }), 6);
 }
 
 TEST(Value, GivesTextsAndNumbersAsTheOtherKindToo) {
@@ -57,7 +57,7 @@ TEST(Value, GivesTextsAndNumbersAsTheOtherKindToo) {
     EXPECT_EQ(Value(7).toText(), "7");
     EXPECT_EQ(Value("33").toInt16(), 33);
     EXPECT_EQ(Value(37.5).toInt16(), 38);
-    EXPECT_EQ(faultOf([] { Value(40000).toInt16(); }), 6);
-    EXPECT_EQ(faultOf([] { Value().toText(); }), 94);
-    EXPECT_EQ(faultOf([] { Value().toInt16(); }), 94);
+    EXPECT_EQ(errorOf([] { Value(40000).toInt16(); }), 6);
+    EXPECT_EQ(errorOf([] { Value().toText(); }), 94);
+    EXPECT_EQ(errorOf([] { Value().toInt16(); }), 94);
 }

@@ -46,7 +46,7 @@ TEST(FinalRoad, TheTwentyFirstStepHasNoPlaceForItsScore) {
         quizzes::keepStepScore(made, 100);
         FAIL();
     } catch (const platform::RuntimeError& error) {
-        EXPECT_EQ(error.fault(), platform::Fault::SubscriptOutOfRange);
+        EXPECT_EQ(error.code(), platform::ErrorCode::SubscriptOutOfRange);
         EXPECT_TRUE(error.sentence().contains(QStringLiteral("21")));
     }
 }

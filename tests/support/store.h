@@ -47,7 +47,7 @@ class TemporaryStore {
 
 /// The number of the run-time error that the work ends in, 0 without one; `sentence` takes its words.
 template <typename Work>
-int faultOf(Work work, QString* sentence = nullptr) {
+int errorOf(Work work, QString* sentence = nullptr) {
     try {
         work();
     } catch (const platform::RuntimeError& error) {

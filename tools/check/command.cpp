@@ -56,14 +56,14 @@ struct Checked {
     int rows = 0;
 };
 
-Checked checkTables(const std::vector<BuiltTable>& tables, const Damages& damages,
+Checked checkTables(const std::vector<BuiltTable>& tables, const ReadErrors& damages,
                     std::optional<check::Media> media) {
     const check::Course course(tables, std::move(media));
     return {check::checkTables(course, damages), course.rowCount};
 }
 
 Checked checkFolder(const QString& folder) {
-    Damages damages;
+    ReadErrors damages;
     const CourseSource source = readCourse(folder, &damages);
     const BuiltCourse built(source, &damages);
     return checkTables(built.tables(), damages, {});

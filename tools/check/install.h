@@ -9,7 +9,7 @@ namespace tools::check {
 struct InstallTables {
     std::vector<BuiltTable> tables;
     Media media;
-    Damages damages;
+    ReadErrors damages;
 };
 
 /// Reads the stores below a root folder without changing them. What the program would not find is told in

@@ -59,7 +59,7 @@ QString tableNames() {
 }
 
 /// Tells of each field that the table needs and its first line does not name.
-bool hasNeededFields(const TableFile& table, const AuthoredTable& authored, Damages* damages) {
+bool hasNeededFields(const TableFile& table, const AuthoredTable& authored, ReadErrors* damages) {
     bool whole = true;
     for (const QString& field : QString::fromLatin1(authored.needed).split(u' '))
         if (table.column(field) < 0) {
@@ -75,7 +75,7 @@ bool hasNeededFields(const TableFile& table, const AuthoredTable& authored, Dama
 }
 
 void readFolder(CourseSource& course, const QString& folder, const QString& shownPrefix, int topicNo,
-                Damages* damages) {
+                ReadErrors* damages) {
     const QDir dir(folder);
     for (const QString& name : dir.entryList({QStringLiteral("*.csv")}, QDir::Files, QDir::Name)) {
         try {
@@ -105,7 +105,7 @@ std::optional<int> unitNumber(const QString& name) {
 }
 
 void readUnit(CourseSource& course, const QDir& dir, const QString& name, std::map<int, QString>& known,
-              Damages* damages) {
+              ReadErrors* damages) {
     const QDir folder(dir.filePath(name));
     const std::optional<int> number = unitNumber(name);
     if (!number) {
@@ -135,7 +135,7 @@ bool holdsNumber(const core::FieldShape& field, qlonglong number) {
 }
 
 Value parseValue(const QString& text, const core::FieldShape& field, const SourcePlace& place,
-                 Damages* damages) {
+                 ReadErrors* damages) {
     if (field.kind == core::FieldKind::Text || field.kind == core::FieldKind::Date)
         return text;
     if (text.isEmpty())
@@ -183,7 +183,7 @@ std::vector<const CourseSource::UnitTable*> CourseSource::named(const QString& t
     return found;
 }
 
-CourseSource readCourse(const QString& folder, Damages* damages) {
+CourseSource readCourse(const QString& folder, ReadErrors* damages) {
     CourseSource course{folder, {}};
     readFolder(course, folder, QString(), 0, damages);
     const QDir dir(folder);
@@ -220,7 +220,7 @@ const Value& BuiltTable::value(const BuiltRow& row, const QString& name) const {
     return row.values[static_cast<std::size_t>(column(name))];
 }
 
-BuiltCourse::BuiltCourse(const CourseSource& source, Damages* damages) : damages_(damages) {
+BuiltCourse::BuiltCourse(const CourseSource& source, ReadErrors* damages) : damages_(damages) {
     for (const AuthoredTable& authored : authoredTables)
         add(source, QLatin1String(authored.store), QLatin1String(authored.table));
     fillCounts();

@@ -25,7 +25,7 @@ struct CourseSource {
 
 /// Reads every table below a course folder: `topic.csv` beside folders `unit01`, `unit02` … Tables without a
 /// field that their screens live by are left out. Throws SourceError where the folder holds no table at all.
-CourseSource readCourse(const QString& folder, Damages* damages = nullptr);
+CourseSource readCourse(const QString& folder, ReadErrors* damages = nullptr);
 
 /// One row of a store's table as built, with the place in the text table that it came from.
 struct BuiltRow {
@@ -49,7 +49,7 @@ struct BuiltTable {
 class BuiltCourse {
    public:
     /// Throws SourceError where a number is no number or too large, or a column has no place in its table.
-    explicit BuiltCourse(const CourseSource& source, Damages* damages = nullptr);
+    explicit BuiltCourse(const CourseSource& source, ReadErrors* damages = nullptr);
 
     const std::vector<BuiltTable>& tables() const { return tables_; }
     const BuiltTable& table(const QString& name) const;
@@ -63,7 +63,7 @@ class BuiltCourse {
     void fillCounts();
     void addDictionary();
 
-    Damages* damages_;
+    ReadErrors* damages_;
     std::vector<BuiltTable> tables_;
     QMap<QString, QString> words_;  // word, meaning
 };

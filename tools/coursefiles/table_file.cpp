@@ -23,7 +23,7 @@ QString fieldCount(qsizetype count) {
 /// Collects what the parser reports. Lines are fed one by one, so that each row knows the line it began on.
 struct Collector {
     TableFile& table;
-    Damages* damages;
+    ReadErrors* damages;
     QStringList fields;
     int line = 1;
     int rowLine = 1;
@@ -119,7 +119,7 @@ void feed(csv_parser& parser, Collector& collector, const QByteArray& bytes) {
                        QStringLiteral("a double quotation mark behind the text"));
 }
 
-void checkColumns(const TableFile& table, Damages* damages) {
+void checkColumns(const TableFile& table, ReadErrors* damages) {
     if (table.columns.isEmpty())
         throw SourceError({table.file, 1, {}}, QStringLiteral("the first line must name the fields"),
                           QStringLiteral("the names of the fields with commas between them"));
@@ -148,7 +148,7 @@ SourceError::SourceError(SourcePlace place, QString sentence, QString right)
       sentence_(std::move(sentence)),
       right_(std::move(right)) {}
 
-void complain(Damages* damages, const SourceError& error) {
+void complain(ReadErrors* damages, const SourceError& error) {
     if (damages == nullptr)
         throw error;
     damages->push_back(error);
@@ -166,7 +166,7 @@ QString TableFile::field(const TableRow& row, const QString& name) const {
     return index < 0 ? QString() : row.fields[index];
 }
 
-TableFile readTableFile(const QString& path, const QString& shownName, Damages* damages) {
+TableFile readTableFile(const QString& path, const QString& shownName, ReadErrors* damages) {
     QFile file(path);
     if (!QFileInfo(path).isFile())
         throw SourceError({shownName, 0, {}}, QStringLiteral("it is no regular file"),
@@ -177,7 +177,7 @@ TableFile readTableFile(const QString& path, const QString& shownName, Damages* 
     return parseTable(file.readAll(), shownName, damages);
 }
 
-TableFile parseTable(QByteArray bytes, const QString& shownName, Damages* damages) {
+TableFile parseTable(QByteArray bytes, const QString& shownName, ReadErrors* damages) {
     TableFile table{shownName, QFileInfo(shownName).completeBaseName(), {}, {}};
     if (bytes.startsWith("\xFF\xFE") || bytes.startsWith("\xFE\xFF"))
         throw SourceError({shownName, 1, {}}, QStringLiteral("the text is UTF-16, not UTF-8"), savedAsUtf8);

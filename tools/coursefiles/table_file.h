@@ -36,10 +36,10 @@ class SourceError : public std::runtime_error {
 
 /// Told of each place that cannot be read; reading then goes on behind it. Without one the first such place
 /// ends the reading.
-using Damages = std::vector<SourceError>;
+using ReadErrors = std::vector<SourceError>;
 
 /// Throws the error, or keeps it where somebody collects them.
-void complain(Damages* damages, const SourceError& error);
+void complain(ReadErrors* damages, const SourceError& error);
 
 /// One row of a text table and the line it starts on.
 struct TableRow {
@@ -65,8 +65,8 @@ struct TableFile {
 
 /// Reads one text table. Throws SourceError for a missing or damaged file and for text that is not UTF-8. A
 /// row with more or fewer fields than the first line names is left out. Rows without any text do not count.
-TableFile readTableFile(const QString& path, const QString& shownName, Damages* damages = nullptr);
+TableFile readTableFile(const QString& path, const QString& shownName, ReadErrors* damages = nullptr);
 /// The same from the bytes of a file.
-TableFile parseTable(QByteArray bytes, const QString& shownName, Damages* damages = nullptr);
+TableFile parseTable(QByteArray bytes, const QString& shownName, ReadErrors* damages = nullptr);
 
 }  // namespace tools

@@ -64,7 +64,7 @@ std::unique_ptr<Worker> IsolatedReader::start(std::function<void(MessageWriter&,
 Message IsolatedReader::next(Worker& worker) const {
     const auto message = worker.read();
     if (!message)
-        throw ReadError(damaged(worker.epitaph()));
+        throw ReadError(damaged(worker.lastWords()));
     if (message->kind == Message::Kind::Error)
         throw ReadError(message->sentence);
     return *message;

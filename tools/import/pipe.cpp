@@ -262,7 +262,7 @@ std::optional<Message> Worker::read() {
     return Message::decoded(content);
 }
 
-QString Worker::epitaph() {
+QString Worker::lastWords() {
     if (late_ && budget_.leftMs <= 0)
         return QStringLiteral("reading it took longer than %1 seconds").arg((budget_.wholeMs + 500) / 1000);
     if (late_)

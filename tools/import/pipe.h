@@ -66,7 +66,7 @@ class Worker {
     /// The next message; nothing where the worker broke down or took too long.
     std::optional<Message> read();
     /// Why there is no further message.
-    QString epitaph();
+    QString lastWords();
 
    private:
     bool fill(qsizetype size);

@@ -180,9 +180,9 @@ class Recipe {
 };
 
 /// Hands the videos to workers, and their news to the calling thread.
-class Studio {
+class VideoRun {
    public:
-    Studio(const std::vector<VideoText>& texts, const VideoPlan& plan) : texts_(texts), plan_(plan) {
+    VideoRun(const std::vector<VideoText>& texts, const VideoPlan& plan) : texts_(texts), plan_(plan) {
         report_.silent = !narrator_.speaks(Voice::English);
         report_.silentKorean = !narrator_.speaks(Voice::Korean);
     }
@@ -278,7 +278,7 @@ VideoReport makeVideos(const std::vector<VideoText>& texts, const VideoPlan& pla
     else if (QStandardPaths::findExecutable(QStringLiteral("ffmpeg")).isEmpty())
         report.failures.append(
             QStringLiteral("ffmpeg is not installed; the course runs without videos until it is."));
-    return report.failures.isEmpty() ? Studio(texts, plan).run() : report;
+    return report.failures.isEmpty() ? VideoRun(texts, plan).run() : report;
 }
 
 }  // namespace tools

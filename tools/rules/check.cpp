@@ -69,7 +69,7 @@ std::vector<Finding> checkCourse(const Course& course, const char* onlyRule) {
     return std::move(findings.all());
 }
 
-std::vector<Finding> unreadable(const Damages& damages) {
+std::vector<Finding> unreadable(const ReadErrors& damages) {
     std::vector<Finding> findings;
     for (const SourceError& damage : damages)
         findings.push_back(
@@ -77,7 +77,7 @@ std::vector<Finding> unreadable(const Damages& damages) {
     return findings;
 }
 
-std::vector<Finding> checkTables(const Course& course, const Damages& damages) {
+std::vector<Finding> checkTables(const Course& course, const ReadErrors& damages) {
     std::vector<Finding> findings = unreadable(damages);
     QSet<QString> told;
     for (const SourceError& damage : damages)

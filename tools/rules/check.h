@@ -84,10 +84,10 @@ inline constexpr const char* unreadableRule = "table-unreadable";
 std::vector<Finding> checkCourse(const Course& course, const char* onlyRule = nullptr);
 
 /// Places that could not be read, as findings.
-std::vector<Finding> unreadable(const Damages& damages);
+std::vector<Finding> unreadable(const ReadErrors& damages);
 
 /// Places that could not be read, and behind them what the rules find elsewhere.
-std::vector<Finding> checkTables(const Course& course, const Damages& damages);
+std::vector<Finding> checkTables(const Course& course, const ReadErrors& damages);
 
 int errorCount(const std::vector<Finding>& findings);
 

@@ -55,7 +55,7 @@ class Installer {
         : plan_(plan), root_(plan.root), stamp_(courseStamp(plan.courseFolder)) {}
 
     void run() {
-        Damages damages;
+        ReadErrors damages;
         const BuiltCourse course(readCourse(plan_.courseFolder, &damages), &damages);
         checkCourse(course, damages);
         claimRoot();
@@ -71,7 +71,7 @@ class Installer {
     }
 
     BuiltStores runStores() {
-        Damages damages;
+        ReadErrors damages;
         const BuiltCourse course(readCourse(plan_.courseFolder, &damages), &damages);
         BuiltStores built;
         built.warnings = checkCourse(course, damages);
@@ -86,7 +86,7 @@ class Installer {
 
    private:
     /// Throws where the course has an error; gives the number of warnings.
-    static int checkCourse(const BuiltCourse& built, const Damages& damages) {
+    static int checkCourse(const BuiltCourse& built, const ReadErrors& damages) {
         const check::Course course(built.tables());
         const std::vector<check::Finding> findings = check::checkTables(course, damages);
         const int errors = check::errorCount(findings);

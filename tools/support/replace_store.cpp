@@ -22,9 +22,9 @@ constexpr int patience = 15000;
 
 /// Keeps every other program out of a store for as long as it lives. Opening the store so also ends what a
 /// killed program had begun in it.
-class Hold {
+class ExclusiveLock {
    public:
-    explicit Hold(const QString& place) {
+    explicit ExclusiveLock(const QString& place) {
         if (!QFile::exists(place))
             return;
         try {
@@ -42,12 +42,12 @@ class Hold {
             store_.reset();
         }
     }
-    ~Hold() {
+    ~ExclusiveLock() {
         if (store_)
             store_->tryExec("ROLLBACK");
     }
-    Hold(const Hold&) = delete;
-    Hold& operator=(const Hold&) = delete;
+    ExclusiveLock(const ExclusiveLock&) = delete;
+    ExclusiveLock& operator=(const ExclusiveLock&) = delete;
 
    private:
     std::unique_ptr<SQLite::Database> store_;
@@ -79,7 +79,7 @@ QString keepOlder(const QString& place) {
 }
 
 QString moveIntoPlace(const QString& finished, const QString& place, Older older) {
-    const Hold hold(place);
+    const ExclusiveLock lock(place);
     const QString kept = older == Older::Kept ? keepOlder(place) : QString();
     for (const char* leftover : {"-journal", "-wal", "-shm"})
         QFile::remove(place + QLatin1String(leftover));

@@ -25,7 +25,7 @@ namespace {
 constexpr int looksAtBox = 20;
 
 [[noreturn]] void fail() {
-    throw platform::RuntimeError(platform::Fault::FileNotFound,
+    throw platform::RuntimeError(platform::ErrorCode::FileNotFound,
                                  QStringLiteral("File not found: 'D:\\next1.jpg'."));
 }
 
@@ -162,9 +162,10 @@ int main(int argc, char** argv) {
              another.start(20);
          }},
         {"posted", [&] { QMetaObject::invokeMethod(&application, fail, Qt::QueuedConnection); }},
-        {"startup", [&] { application.guarded(fail); }},
+        {"startup", [&] { application.endOnFailure(fail); }},
         {"screen", [] { windows = new Windows; }},
-        {"full store", [&] { application.guarded([&] { fillStore(application.arguments().value(2)); }); }},
+        {"full store",
+         [&] { application.endOnFailure([&] { fillStore(application.arguments().value(2)); }); }},
         {"log out",
          [] {
              logOut();

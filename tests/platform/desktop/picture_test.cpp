@@ -9,7 +9,7 @@
 #include <QPixmap>
 
 using platform::loadPicture;
-using support::faultOf;
+using support::errorOf;
 
 namespace {
 
@@ -35,14 +35,14 @@ class PictureTest : public testing::Test {
 
 TEST_F(PictureTest, AMissingPictureIsAnErrorThatNamesIt) {
     QString sentence;
-    EXPECT_EQ(faultOf([&] { loadPicture(file, shown, 1.0); }, &sentence), 53);
+    EXPECT_EQ(errorOf([&] { loadPicture(file, shown, 1.0); }, &sentence), 53);
     EXPECT_TRUE(sentence.contains(shown));
 }
 
 TEST_F(PictureTest, AFileThatIsNoPictureIsAnErrorThatNamesIt) {
     write(file, "no picture at all");
     QString sentence;
-    EXPECT_EQ(faultOf([&] { loadPicture(file, shown, 1.0); }, &sentence), 481);
+    EXPECT_EQ(errorOf([&] { loadPicture(file, shown, 1.0); }, &sentence), 481);
     EXPECT_TRUE(sentence.contains(shown));
 }
 
@@ -81,11 +81,11 @@ TEST_F(PictureTest, ACursorFileKeepsItsPictureAndItsHotSpot) {
 
 TEST_F(PictureTest, ABrokenOrMissingCursorIsAnError) {
     const QString cursor = folder.filePath("harrow.cur");
-    EXPECT_EQ(faultOf([&] { platform::loadCursor(cursor, "D:\\harrow.cur"); }), 53);
+    EXPECT_EQ(errorOf([&] { platform::loadCursor(cursor, "D:\\harrow.cur"); }), 53);
     write(cursor, "short");
-    EXPECT_EQ(faultOf([&] { platform::loadCursor(cursor, "D:\\harrow.cur"); }), 481);
+    EXPECT_EQ(errorOf([&] { platform::loadCursor(cursor, "D:\\harrow.cur"); }), 481);
     write(cursor, QByteArray(200, 'x'));
-    EXPECT_EQ(faultOf([&] { platform::loadCursor(cursor, "D:\\harrow.cur"); }), 481);
+    EXPECT_EQ(errorOf([&] { platform::loadCursor(cursor, "D:\\harrow.cur"); }), 481);
 }
 
 TEST(Hourglass, IsTheCursorForAsLongAsItLives) {
@@ -107,7 +107,7 @@ TEST_F(PictureTest, APictureThatWasCutOffIsAnErrorThatNamesIt) {
     QFile picture(file);
     ASSERT_TRUE(picture.resize(picture.size() - 200));
     QString sentence;
-    EXPECT_EQ(faultOf([&] { loadPicture(file, shown, 1.0); }, &sentence), 481);
+    EXPECT_EQ(errorOf([&] { loadPicture(file, shown, 1.0); }, &sentence), 481);
     EXPECT_TRUE(sentence.contains(shown));
 }
 
@@ -117,7 +117,7 @@ TEST_F(PictureTest, SomethingBehindAPictureDoesNoHarm) {
     ASSERT_TRUE(picture.open(QIODevice::Append));
     picture.write(QByteArray(10000, 'x'));
     picture.close();
-    EXPECT_EQ(faultOf([&] { loadPicture(file, shown, 1.0); }), 0);
+    EXPECT_EQ(errorOf([&] { loadPicture(file, shown, 1.0); }), 0);
 }
 
 TEST_F(PictureTest, ACursorThatCannotBeWrittenIsAnErrorThatNamesIt) {
@@ -125,7 +125,7 @@ TEST_F(PictureTest, ACursorThatCannotBeWrittenIsAnErrorThatNamesIt) {
     image.fill(Qt::red);
     const QString cursor = folder.filePath("nowhere/harrow.cur");
     QString sentence;
-    EXPECT_EQ(faultOf([&] { platform::writeCursor(cursor, image, QPoint(1, 2)); }, &sentence), 53);
+    EXPECT_EQ(errorOf([&] { platform::writeCursor(cursor, image, QPoint(1, 2)); }, &sentence), 53);
     EXPECT_TRUE(sentence.contains(cursor)) << sentence.toStdString();
 }
 
@@ -136,7 +136,7 @@ TEST_F(PictureTest, ACursorThatTheDiskHasNoRoomForLeavesTheOlderOne) {
     platform::writeCursor(cursor, image, QPoint(13, 2));
     {
         const support::FileSizeLimit full(10);
-        EXPECT_EQ(faultOf([&] { platform::writeCursor(cursor, image, QPoint(1, 1)); }), 53);
+        EXPECT_EQ(errorOf([&] { platform::writeCursor(cursor, image, QPoint(1, 1)); }), 53);
     }
     EXPECT_EQ(platform::loadCursor(cursor, "D:\\harrow.cur").hotSpot(), QPoint(13, 2));
 }
@@ -157,5 +157,5 @@ TEST_F(PictureTest, ALargePictureThatWasReadAheadIsNotDecodedAgain) {
     touched.setFileTime(changed, QFileDevice::FileModificationTime);
     touched.close();
     EXPECT_EQ(loadPicture(file, shown, 2.0).size(), QSize(400, 400));
-    EXPECT_EQ(faultOf([&] { loadPicture(file, shown, 2.0); }), 481) << "it is not kept for longer";
+    EXPECT_EQ(errorOf([&] { loadPicture(file, shown, 2.0); }), 481) << "it is not kept for longer";
 }

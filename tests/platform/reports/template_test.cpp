@@ -9,7 +9,7 @@
 #include <gtest/gtest.h>
 
 using platform::Drives;
-using platform::Fault;
+using platform::ErrorCode;
 using platform::readReportTemplate;
 using platform::RuntimeError;
 
@@ -34,7 +34,7 @@ class ReportTemplateTest : public ::testing::Test {
         try {
             read(name);
         } catch (const RuntimeError& failure) {
-            fault_ = failure.fault();
+            code_ = failure.code();
             return failure.sentence();
         }
         return {};
@@ -42,7 +42,7 @@ class ReportTemplateTest : public ::testing::Test {
 
     QTemporaryDir folder_;
     Drives drives_{folder_.path()};
-    mutable Fault fault_{};
+    mutable ErrorCode code_{};
 };
 
 const QByteArray least = "store = \"s.mdb\"\nrows = \"t\"\n[[item]]\nprompts = [\"{a}\"]\n";
@@ -51,7 +51,7 @@ const QByteArray least = "store = \"s.mdb\"\nrows = \"t\"\n[[item]]\nprompts = [
 
 TEST_F(ReportTemplateTest, AMissingFileIsNotFound) {
     EXPECT_TRUE(error(QStringLiteral("none.rpt")).contains(path(QStringLiteral("none.rpt"))));
-    EXPECT_EQ(fault_, Fault::FileNotFound);
+    EXPECT_EQ(code_, ErrorCode::FileNotFound);
 }
 
 TEST_F(ReportTemplateTest, ABrokenFileIsToldWithFileAndLine) {
@@ -79,7 +79,7 @@ TEST_F(ReportTemplateTest, ABrokenFileIsToldWithFileAndLine) {
         const QString sentence = error(QStringLiteral("bad.rpt"));
         EXPECT_TRUE(sentence.contains(expected)) << content.toStdString() << "\n" << sentence.toStdString();
         EXPECT_TRUE(sentence.contains(path(QStringLiteral("bad.rpt")))) << sentence.toStdString();
-        EXPECT_EQ(fault_, Fault::SyntaxError);
+        EXPECT_EQ(code_, ErrorCode::SyntaxError);
     }
 }
 

@@ -12,11 +12,11 @@
 #include <sys/wait.h>
 #include <unistd.h>
 
-using platform::Batch;
 using platform::Database;
 using platform::Query;
 using platform::StoreFormat;
-using support::faultOf;
+using platform::Transaction;
+using support::errorOf;
 using support::TemporaryStore;
 
 namespace {
@@ -39,34 +39,34 @@ class BrokenStore : public testing::Test {
         QFile in(file);
         return in.open(QIODevice::ReadOnly) ? in.readAll() : QByteArray();
     }
-    int openFault() {
-        return faultOf([&] { Database::open(file, QStringLiteral("D:\\tovalin.mdb")); }, &sentence);
+    int openError() {
+        return errorOf([&] { Database::open(file, QStringLiteral("D:\\tovalin.mdb")); }, &sentence);
     }
 };
 
 }  // namespace
 
 TEST_F(BrokenStore, AMissingStoreIsNamed) {
-    EXPECT_EQ(openFault(), 3024);
+    EXPECT_EQ(openError(), 3024);
     EXPECT_TRUE(sentence.contains("'D:\\tovalin.mdb'"));
     EXPECT_FALSE(QFile::exists(file)) << "opening makes no store";
 }
 
 TEST_F(BrokenStore, AFolderUnderTheNameIsNoStore) {
     QDir().mkpath(file);
-    EXPECT_EQ(openFault(), 3024);
+    EXPECT_EQ(openError(), 3024);
     EXPECT_TRUE(sentence.contains("'D:\\tovalin.mdb' is a folder")) << sentence.toStdString();
 }
 
 TEST_F(BrokenStore, AnEmptyFileIsToldAsDamaged) {
     write({});
-    EXPECT_EQ(openFault(), 3343);
+    EXPECT_EQ(openError(), 3343);
     EXPECT_TRUE(sentence.contains("'D:\\tovalin.mdb' is damaged"));
 }
 
 TEST_F(BrokenStore, AnyOtherFileIsToldAsDamagedAndStaysAsItIs) {
     write("once upon a time there was a text file");
-    EXPECT_EQ(openFault(), 3343);
+    EXPECT_EQ(openError(), 3343);
     EXPECT_EQ(content(), "once upon a time there was a text file");
 }
 
@@ -75,7 +75,7 @@ TEST_F(BrokenStore, AGenuineAccessFileIsRefusedWithTheImportToolAndStaysAsItIs) 
         const QByteArray bytes = QByteArray("\x00\x01\x00\x00", 4) + engine + QByteArray(200, 'x');
         write(bytes);
         EXPECT_EQ(platform::storeFormat(file), StoreFormat::AccessFile);
-        EXPECT_EQ(openFault(), 3343);
+        EXPECT_EQ(openError(), 3343);
         EXPECT_TRUE(sentence.contains("genuine Access file") && sentence.contains("course import"));
         EXPECT_EQ(content(), bytes);
     }
@@ -83,27 +83,27 @@ TEST_F(BrokenStore, AGenuineAccessFileIsRefusedWithTheImportToolAndStaysAsItIs) 
 
 TEST_F(BrokenStore, AStoreWithAGoodHeadAndABrokenBodyIsToldAsDamaged) {
     write("SQLite format 3" + QByteArray(1, '\0') + QByteArray(4000, 'x'));
-    const int fault = faultOf(
+    const int code = errorOf(
         [&] {
             const Database database = Database::open(file, QStringLiteral("D:\\tovalin.mdb"));
             database.openRecordset(QStringLiteral("Select * from words"));
         },
         &sentence);
-    EXPECT_EQ(fault, 3343);
+    EXPECT_EQ(code, 3343);
     EXPECT_TRUE(sentence.contains("'D:\\tovalin.mdb' is damaged"));
 }
 
 TEST(Database, ATableThatTheStoreLacksIsNamed) {
     const TemporaryStore store(twoWords);
     QString sentence;
-    EXPECT_EQ(faultOf([&] { store.open().openRecordset("Select * from fruit"); }, &sentence), 3078);
+    EXPECT_EQ(errorOf([&] { store.open().openRecordset("Select * from fruit"); }, &sentence), 3078);
     EXPECT_TRUE(sentence.contains("D:\\tovalin.mdb") && sentence.contains("'fruit'"));
 }
 
 TEST(Database, AFieldThatAQueryNamesAndTheTableLacksIsAnError) {
     const TemporaryStore store(twoWords);
-    EXPECT_EQ(faultOf([&] { store.open().openRecordset("Select * from words where colour=3"); }), 3265);
-    EXPECT_EQ(faultOf([&] { store.open().openRecordset("Select * from words order by colour"); }), 3265);
+    EXPECT_EQ(errorOf([&] { store.open().openRecordset("Select * from words where colour=3"); }), 3265);
+    EXPECT_EQ(errorOf([&] { store.open().openRecordset("Select * from words order by colour"); }), 3265);
 }
 
 TEST(Database, TableNamesAreFoundInAnyCase) {
@@ -132,7 +132,7 @@ TEST(Database, AnEditThatTheStoreRefusesIsToldWithTheReason) {
     set.edit();
     set.set("word", "plum");
     QString sentence;
-    EXPECT_EQ(faultOf([&] { set.update(); }, &sentence), 3049);
+    EXPECT_EQ(errorOf([&] { set.update(); }, &sentence), 3049);
     EXPECT_TRUE(sentence.contains("kept as it is"));
 }
 
@@ -147,23 +147,23 @@ void add(const Database& database, const char* word) {
 
 }  // namespace
 
-TEST(Batch, StoresAllEditsWhenItCommits) {
+TEST(Transaction, StoresAllEditsWhenItCommits) {
     const TemporaryStore store(twoWords);
     const Database database = store.open();
-    Batch batch(database);
+    Transaction transaction(database);
     add(database, "lime");
     add(database, "plum");
     EXPECT_EQ(store.rows("select count(*) from words"), QStringList{"2"}) << "onlookers see nothing yet";
-    batch.commit();
+    transaction.commit();
     EXPECT_EQ(store.rows("select count(*) from words"), QStringList{"4"});
 }
 
-TEST(Batch, StoresNothingWhenAnErrorLeavesIt) {
+TEST(Transaction, StoresNothingWhenAnErrorLeavesIt) {
     const TemporaryStore store(twoWords);
     const Database database = store.open();
     platform::Recordset standing = database.openRecordset("Select * from words");
-    EXPECT_EQ(faultOf([&] {
-                  const Batch batch(database);
+    EXPECT_EQ(errorOf([&] {
+                  const Transaction transaction(database);
                   platform::Recordset set = database.openRecordset("Select * from words");
                   set.edit();
                   set.set("word", "plum");
@@ -178,12 +178,12 @@ TEST(Batch, StoresNothingWhenAnErrorLeavesIt) {
     EXPECT_EQ(store.rows("select count(*) from words"), QStringList{"3"}) << "the store takes edits again";
 }
 
-TEST(Batch, TheOutermostOneStores) {
+TEST(Transaction, TheOutermostOneStores) {
     const TemporaryStore store(twoWords);
     const Database database = store.open();
-    Batch outer(database);
+    Transaction outer(database);
     {
-        Batch inner(database);
+        Transaction inner(database);
         add(database, "lime");
         inner.commit();
     }
@@ -192,20 +192,20 @@ TEST(Batch, TheOutermostOneStores) {
     EXPECT_EQ(store.rows("select count(*) from words"), QStringList{"3"});
 }
 
-TEST(Batch, APartGivenUpIsToldWhenTheWholeIsToBeStored) {
+TEST(Transaction, APartGivenUpIsToldWhenTheWholeIsToBeStored) {
     const TemporaryStore store(twoWords);
     const Database database = store.open();
-    Batch outer(database);
+    Transaction outer(database);
     {
-        const Batch inner(database);
+        const Transaction inner(database);
         add(database, "lime");
     }
-    EXPECT_EQ(faultOf([&] { outer.commit(); }), 3049);
+    EXPECT_EQ(errorOf([&] { outer.commit(); }), 3049);
     EXPECT_EQ(store.rows("select count(*) from words"), QStringList{"2"});
 }
 
-TEST(Batch, NeedsAnOpenDatabase) {
-    EXPECT_EQ(faultOf([] { const Batch batch{Database()}; }), 5);
+TEST(Transaction, NeedsAnOpenDatabase) {
+    EXPECT_EQ(errorOf([] { const Transaction batch{Database()}; }), 5);
 }
 
 TEST(Query, TakesTheOneShapeApartInAnyCase) {
@@ -220,7 +220,7 @@ TEST(Query, TakesTheOneShapeApartInAnyCase) {
 TEST(Query, AnyOtherShapeIsASyntaxError) {
     for (const char* sql :
          {"", "Select word from words", "Delete from words", "Select * from words having a=1"})
-        EXPECT_EQ(faultOf([&] { Query::parse(sql); }), 3077) << sql;
+        EXPECT_EQ(errorOf([&] { Query::parse(sql); }), 3077) << sql;
 }
 
 TEST_F(BrokenStore, AStoreThatMayNotBeReadIsNotToldAsMissing) {
@@ -230,14 +230,14 @@ TEST_F(BrokenStore, AStoreThatMayNotBeReadIsNotToldAsMissing) {
     const support::Stranger stranger;
     if (QFile opened(file); opened.open(QIODevice::ReadOnly))
         GTEST_SKIP() << "nothing is closed to this user";
-    EXPECT_EQ(openFault(), 3049);
+    EXPECT_EQ(openError(), 3049);
     EXPECT_TRUE(sentence.startsWith("'D:\\tovalin.mdb' cannot be opened: ")) << sentence.toStdString();
 }
 
 TEST(Database, OpeningAStoreAgainKeepsTheLocksThatARunOfEditsHolds) {
     const TemporaryStore store(twoWords);
     const Database database = store.open();
-    const Batch batch(database);
+    const Transaction transaction(database);
     const Database again = store.open();
     const pid_t onlooker = fork();
     if (onlooker == 0) {
@@ -261,12 +261,12 @@ TEST(Database, AFieldThatAConditionOrAnOrderMissesIsToldWithItsTableAndStore) {
     const Database database = store.open();
     for (const char* sql : {"Select * from words where page=1", "Select * from words order by page"}) {
         QString sentence;
-        EXPECT_EQ(faultOf([&] { database.openRecordset(QLatin1String(sql)); }, &sentence), 3265);
+        EXPECT_EQ(errorOf([&] { database.openRecordset(QLatin1String(sql)); }, &sentence), 3265);
         EXPECT_EQ(sentence, "There is no field 'page' in table 'words' of 'D:\\tovalin.mdb'.");
     }
     auto rows = database.openRecordset(QStringLiteral("Select * from words"));
     QString sentence;
-    EXPECT_EQ(faultOf([&] { rows.findFirst(QStringLiteral("page=1")); }, &sentence), 3265);
+    EXPECT_EQ(errorOf([&] { rows.findFirst(QStringLiteral("page=1")); }, &sentence), 3265);
     EXPECT_EQ(sentence, "There is no field 'page' in table 'words' of 'D:\\tovalin.mdb'.");
 }
 
@@ -277,7 +277,7 @@ TEST(Database, AStoreThatWasReplacedWhileItWasInUseIsToldAsSuch) {
     auto rows = database.openRecordset(QStringLiteral("Select * from words"));
     ASSERT_EQ(std::rename(newer.file().toLocal8Bit().constData(), store.file().toLocal8Bit().constData()), 0);
     QString sentence;
-    EXPECT_EQ(faultOf(
+    EXPECT_EQ(errorOf(
                   [&] {
                       rows.edit();
                       rows.set(QStringLiteral("word"), QStringLiteral("plum"));
@@ -297,7 +297,7 @@ TEST_F(BrokenStore, AFolderThatIsClosedOrIsAFileIsNotToldAsAMissingStore) {
     {
         const support::Stranger stranger;
         if (!QFile(file).open(QIODevice::ReadOnly)) {
-            EXPECT_EQ(openFault(), 3049);
+            EXPECT_EQ(openError(), 3049);
             EXPECT_EQ(sentence, "'D:\\tovalin.mdb' cannot be reached: the folder '" +
                                     folder.filePath("main") + "' is closed to you. Let its owner open it.");
         }
@@ -305,7 +305,7 @@ TEST_F(BrokenStore, AFolderThatIsClosedOrIsAFileIsNotToldAsAMissingStore) {
     file = folder.filePath("course/tovalin.mdb");
     QFile plain(folder.filePath("course"));
     ASSERT_TRUE(plain.open(QIODevice::WriteOnly));
-    EXPECT_EQ(openFault(), 3024);
+    EXPECT_EQ(openError(), 3024);
     EXPECT_TRUE(sentence.contains("course' is a file and no folder")) << sentence.toStdString();
 }
 
@@ -321,10 +321,10 @@ TEST_F(BrokenStore, DamageIsToldWhenTheStoreOpensAndNothingIsWrittenToIt) {
     ASSERT_GT(bytes.size(), 4 * 4096);
     bytes.replace(3 * 4096, 4096, QByteArray(4096, '\0'));
     write(bytes);
-    EXPECT_EQ(openFault(), 3343);
+    EXPECT_EQ(openError(), 3343);
     EXPECT_TRUE(sentence.startsWith("'D:\\tovalin.mdb' is damaged (") && sentence.contains(file))
         << sentence.toStdString();
-    EXPECT_EQ(openFault(), 3343) << "a store is sound only once it was found so";
+    EXPECT_EQ(openError(), 3343) << "a store is sound only once it was found so";
     EXPECT_EQ(content(), bytes);
 }
 
@@ -340,7 +340,7 @@ TEST_F(BrokenStore, AnIndexThatDoesNotFitItsTableIsDamage) {
     ASSERT_GT(inTable, 0);
     bytes[inTable] = 'b';
     write(bytes);
-    EXPECT_EQ(openFault(), 3343);
+    EXPECT_EQ(openError(), 3343);
 }
 
 TEST(Database, AStoreThatSortsByRulesOfItsOwnIsNoSyntaxError) {
@@ -352,7 +352,7 @@ TEST(Database, AStoreThatSortsByRulesOfItsOwnIsNoSyntaxError) {
             "KOREAN)'");
     }
     QString sentence;
-    EXPECT_EQ(faultOf([&] { store.open().openRecordset("Select * from words where word='a' order by word"); },
+    EXPECT_EQ(errorOf([&] { store.open().openRecordset("Select * from words where word='a' order by word"); },
                       &sentence),
               3343);
     EXPECT_TRUE(sentence.contains("D:\\tovalin.mdb") && sentence.contains("KOREAN"))
@@ -367,11 +367,11 @@ TEST(Database, AStoreOfSomebodyElseIsToldWithItsOwnerAndWhatToDo) {
     if (QFile(store.file()).open(QIODevice::ReadWrite))
         GTEST_SKIP() << "nothing is closed to this user";
     QString sentence;
-    EXPECT_EQ(faultOf([&] { database.requireWritable(); }, &sentence), 3049);
+    EXPECT_EQ(errorOf([&] { database.requireWritable(); }, &sentence), 3049);
     EXPECT_TRUE(sentence.startsWith("'D:\\tovalin.mdb' cannot be written: the file belongs to '"))
         << sentence.toStdString();
     EXPECT_TRUE(sentence.contains("setup"));
-    EXPECT_EQ(faultOf([&] { add(database, "plum"); }), 3049);
+    EXPECT_EQ(errorOf([&] { add(database, "plum"); }), 3049);
 }
 
 TEST(Database, AFolderThatTakesNoJournalIsFoundBeforeAnythingIsWritten) {
@@ -383,7 +383,7 @@ TEST(Database, AFolderThatTakesNoJournalIsFoundBeforeAnythingIsWritten) {
     if (QFile(folder + "/new").open(QIODevice::WriteOnly))
         GTEST_SKIP() << "nothing is closed to this user";
     QString sentence;
-    EXPECT_EQ(faultOf([&] { store.open().requireWritable(); }, &sentence), 3049);
+    EXPECT_EQ(errorOf([&] { store.open().requireWritable(); }, &sentence), 3049);
     EXPECT_TRUE(sentence.contains("its folder belongs to '")) << sentence.toStdString();
 }
 

@@ -60,7 +60,7 @@ TEST_F(FileLockTest, AFolderInItsPlaceIsTold) {
     QString sentence;
     ASSERT_TRUE(QDir().mkpath(file));
     FileLock lock;
-    EXPECT_EQ(support::faultOf([&] { lock.tryTake(file); }, &sentence), 3049);
+    EXPECT_EQ(support::errorOf([&] { lock.tryTake(file); }, &sentence), 3049);
     EXPECT_TRUE(sentence.contains(file)) << sentence.toStdString();
     ASSERT_TRUE(QDir().rmdir(file));
     EXPECT_TRUE(lock.tryTake(file)) << "once it is gone the lock is made";
@@ -76,6 +76,6 @@ TEST_F(FileLockTest, AFileThatCannotBeReadIsToldAndDisablesNoLock) {
         GTEST_SKIP() << "nothing is closed to this user";
     FileLock lock;
     QString sentence;
-    EXPECT_EQ(support::faultOf([&] { lock.tryTake(file); }, &sentence), 3049);
+    EXPECT_EQ(support::errorOf([&] { lock.tryTake(file); }, &sentence), 3049);
     EXPECT_TRUE(sentence.contains(file) && sentence.contains("Permission denied")) << sentence.toStdString();
 }

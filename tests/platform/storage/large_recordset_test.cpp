@@ -77,9 +77,9 @@ TEST_F(LargeRecordsetTest, MovesOnFromTheLastRowToTheEnd) {
 
 TEST_F(LargeRecordsetTest, DeletesEveryRow) {
     Recordset set = open();
-    platform::Batch batch(database);
+    platform::Transaction transaction(database);
     deleteAll(set);
-    batch.commit();
+    transaction.commit();
     EXPECT_TRUE(set.isEmpty());
     EXPECT_EQ(store.rows("select count(*) from words"), QStringList{"0"});
 }
@@ -100,9 +100,9 @@ TEST_F(LargeRecordsetTest, DeletesARowItJumpedTo) {
 TEST_F(LargeRecordsetTest, RowsThatAnotherSetDeletesMeanwhileHideNoOthers) {
     Recordset set = open();
     Recordset other = open("where orderno<=500");
-    platform::Batch batch(database);
+    platform::Transaction transaction(database);
     deleteAll(other);
-    batch.commit();
+    transaction.commit();
     set.findFirst("orderno=1500");
     EXPECT_EQ(set.integer("orderno"), 1500);
     set.moveNext();

@@ -3,7 +3,7 @@
 #include "tests/support/store.h"
 
 using platform::Recordset;
-using support::faultOf;
+using support::errorOf;
 
 namespace {
 
@@ -41,10 +41,10 @@ TEST_F(RecordsetTest, AnEmptySetStandsAtItsStartAndItsEnd) {
     EXPECT_TRUE(none.bof());
     EXPECT_TRUE(none.eof());
     EXPECT_EQ(none.recordCount(), 0);
-    EXPECT_EQ(faultOf([&] { none.moveFirst(); }), 3021);
-    EXPECT_EQ(faultOf([&] { none.moveLast(); }), 3021);
-    EXPECT_EQ(faultOf([&] { none.moveNext(); }), 3021);
-    EXPECT_EQ(faultOf([&] { none.text("word"); }), 3021);
+    EXPECT_EQ(errorOf([&] { none.moveFirst(); }), 3021);
+    EXPECT_EQ(errorOf([&] { none.moveLast(); }), 3021);
+    EXPECT_EQ(errorOf([&] { none.moveNext(); }), 3021);
+    EXPECT_EQ(errorOf([&] { none.text("word"); }), 3021);
 }
 
 TEST_F(RecordsetTest, CountsOneRowUntilItHasMovedToTheLast) {
@@ -66,7 +66,7 @@ TEST_F(RecordsetTest, MovesByACountAndStandsAtTheEndBeyondTheLastRow) {
     EXPECT_EQ(set.text("word"), "kiwi");
     set.move(7);
     EXPECT_TRUE(set.eof());
-    EXPECT_EQ(faultOf([&] { set.moveNext(); }), 3021);
+    EXPECT_EQ(errorOf([&] { set.moveNext(); }), 3021);
 }
 
 TEST_F(RecordsetTest, FieldsAreFoundInAnyCaseAndByIndex) {
@@ -83,10 +83,10 @@ TEST_F(RecordsetTest, FieldsAreFoundInAnyCaseAndByIndex) {
 TEST_F(RecordsetTest, AFieldThatTheTableLacksIsNamed) {
     const Recordset set = open();
     QString sentence;
-    EXPECT_EQ(faultOf([&] { set.text("colour"); }, &sentence), 3265);
+    EXPECT_EQ(errorOf([&] { set.text("colour"); }, &sentence), 3265);
     EXPECT_TRUE(sentence.contains("colour") && sentence.contains("words") &&
                 sentence.contains("D:\\tovalin.mdb"));
-    EXPECT_EQ(faultOf([&] { set.value(4); }), 3265);
+    EXPECT_EQ(errorOf([&] { set.value(4); }), 3265);
 }
 
 TEST_F(RecordsetTest, TextsCompareWithoutRegardToCase) {
@@ -122,9 +122,9 @@ TEST_F(RecordsetTest, FindFirstStaysWithinTheRowsOfTheQuery) {
 TEST_F(RecordsetTest, AnApostropheInsideACriterionIsASyntaxError) {
     Recordset set = open();
     QString sentence;
-    EXPECT_EQ(faultOf([&] { set.findFirst("word='don't'"); }, &sentence), 3077);
+    EXPECT_EQ(errorOf([&] { set.findFirst("word='don't'"); }, &sentence), 3077);
     EXPECT_TRUE(sentence.contains("Syntax error")) << sentence.toStdString();
-    EXPECT_EQ(faultOf([&] { open("where word='don't'"); }), 3077);
+    EXPECT_EQ(errorOf([&] { open("where word='don't'"); }), 3077);
 }
 
 TEST_F(RecordsetTest, ARowEditedThroughOneSetIsSeenByAnother) {
@@ -170,7 +170,7 @@ TEST_F(RecordsetTest, ARowAddedToAnEmptySetIsReachedByAMove) {
     set.set("word", "lime");
     set.update();
     EXPECT_FALSE(set.isEmpty());
-    EXPECT_EQ(faultOf([&] { set.text("word"); }), 3021) << "the place is still before it";
+    EXPECT_EQ(errorOf([&] { set.text("word"); }), 3021) << "the place is still before it";
     set.moveNext();
     EXPECT_EQ(set.text("word"), "lime");
 }
@@ -190,21 +190,21 @@ TEST_F(RecordsetTest, AMoveDropsAnEditThatWasNotStored) {
     set.set("word", "plum");
     set.moveNext();
     EXPECT_EQ(set.text("word"), "fig");
-    EXPECT_EQ(faultOf([&] { set.update(); }), 5);
+    EXPECT_EQ(errorOf([&] { set.update(); }), 5);
     EXPECT_EQ(store.rows("select count(*) from words where word='plum'"), QStringList{"0"});
 }
 
 TEST_F(RecordsetTest, SettingAFieldWithoutAnEditIsAnError) {
     Recordset set = open();
-    EXPECT_EQ(faultOf([&] { set.set("word", "plum"); }), 5);
-    EXPECT_EQ(faultOf([&] { set.update(); }), 5);
+    EXPECT_EQ(errorOf([&] { set.set("word", "plum"); }), 5);
+    EXPECT_EQ(errorOf([&] { set.update(); }), 5);
 }
 
 TEST_F(RecordsetTest, ADeletedRowLeavesThePlaceOnNothingUntilTheNextMove) {
     Recordset set = open("order by orderno");
     set.moveNext();
     set.remove();
-    EXPECT_EQ(faultOf([&] { set.text("word"); }), 3021);
+    EXPECT_EQ(errorOf([&] { set.text("word"); }), 3021);
     set.moveNext();
     EXPECT_EQ(set.text("word"), "pear");
     set.moveLast();
@@ -225,16 +225,16 @@ TEST_F(RecordsetTest, ARowDeletedThroughAnotherSetIsNoCurrentRecord) {
     const Recordset one = open("where orderno=2");
     Recordset other = open("where orderno=2");
     other.remove();
-    EXPECT_EQ(faultOf([&] { one.text("word"); }), 3021);
+    EXPECT_EQ(errorOf([&] { one.text("word"); }), 3021);
 }
 
 TEST_F(RecordsetTest, AFieldWithoutAValueIsAnErrorThatNamesStoreTableFieldAndRow) {
     const Recordset set = open("where orderno=5");
     QString sentence;
-    EXPECT_EQ(faultOf([&] { set.text("note"); }, &sentence), 94);
+    EXPECT_EQ(errorOf([&] { set.text("note"); }, &sentence), 94);
     for (const char* part : {"D:\\tovalin.mdb", "words", "'note'", "row 1", "orderno=5"})
         EXPECT_TRUE(sentence.contains(part)) << part << " in " << sentence.toStdString();
-    EXPECT_EQ(faultOf([&] { set.integer("mark"); }), 94);
+    EXPECT_EQ(errorOf([&] { set.integer("mark"); }), 94);
     EXPECT_EQ(set.textOrEmpty("note"), "");
 }
 
@@ -242,13 +242,13 @@ TEST_F(RecordsetTest, AnEmptyTextIsNoMissingValue) {
     const Recordset set = open("where orderno=3");
     EXPECT_FALSE(set.value("note").isNull());
     EXPECT_EQ(set.text("note"), "");
-    EXPECT_EQ(faultOf([&] { set.integer("note"); }), 13);
+    EXPECT_EQ(errorOf([&] { set.integer("note"); }), 13);
 }
 
 TEST_F(RecordsetTest, ATextIsReadAsANumberOrIsATypeMismatchOrAnOverflow) {
     EXPECT_EQ(open("where orderno=4").integer("note"), 12) << "12.5 goes to the even number";
-    EXPECT_EQ(faultOf([&] { open("where orderno=1").integer("note"); }), 13);
-    EXPECT_EQ(faultOf([&] { open("where orderno=2").integer("note"); }), 6);
+    EXPECT_EQ(errorOf([&] { open("where orderno=1").integer("note"); }), 13);
+    EXPECT_EQ(errorOf([&] { open("where orderno=2").integer("note"); }), 6);
 }
 
 TEST_F(RecordsetTest, NumbersReadInTheirShortestForm) {
@@ -272,11 +272,11 @@ TEST_F(RecordsetTest, AClosedSetOrHandleIsAnErrorAndNoCrash) {
         [&] { set.text("word"); }, [&] { set.findFirst("word='a'"); },
         [&] { set.fieldCount(); }, [&] { set.set(0, 1); }};
     for (std::size_t i = 0; i < uses.size(); ++i)
-        EXPECT_EQ(faultOf(uses[i]), 5) << i;
+        EXPECT_EQ(errorOf(uses[i]), 5) << i;
     database.close();
     database.close();
     EXPECT_FALSE(database.isOpen());
-    EXPECT_EQ(faultOf([&] { open(); }), 5);
+    EXPECT_EQ(errorOf([&] { open(); }), 5);
 }
 
 TEST_F(RecordsetTest, ASetOutlivesTheHandleItWasOpenedFrom) {
@@ -312,7 +312,7 @@ TEST_F(RecordsetTest, ATextThatNoScreenCouldShowIsToldWithItsPlace) {
     const Recordset set = open("where orderno=4");
     for (const bool orEmpty : {false, true}) {
         QString sentence;
-        EXPECT_EQ(faultOf([&] { orEmpty ? set.textOrEmpty("note") : set.text("note"); }, &sentence), 3049);
+        EXPECT_EQ(errorOf([&] { orEmpty ? set.textOrEmpty("note") : set.text("note"); }, &sentence), 3049);
         for (const char* part : {"3000000 letters", "'note'", "'words'", "D:\\tovalin.mdb", "row 1"})
             EXPECT_TRUE(sentence.contains(part)) << part << " in " << sentence.toStdString();
     }
@@ -324,7 +324,7 @@ TEST_F(RecordsetTest, MessagesOnAWorkingTableNameWhereItsRowsComeFrom) {
     database.noteOrigin("Words", "table 'master' of 'D:\\Tovalin_Data.mdb'");
     const Recordset set = open("where orderno=5");
     QString sentence;
-    EXPECT_EQ(faultOf([&] { set.text("note"); }, &sentence), 94);
+    EXPECT_EQ(errorOf([&] { set.text("note"); }, &sentence), 94);
     EXPECT_TRUE(
         sentence.contains("'words' of 'D:\\tovalin.mdb' where orderno=5, filled from table 'master' of "
                           "'D:\\Tovalin_Data.mdb', row 1"))

@@ -8,7 +8,7 @@
 #include <QTimer>
 
 using platform::Database;
-using support::faultOf;
+using support::errorOf;
 using support::TemporaryStore;
 
 namespace {
@@ -82,12 +82,12 @@ TEST_F(StoreWaitTest, AHeldStoreIsWaitedForUnderABoxWhileTheScreenIsPainted) {
 }
 
 TEST_F(StoreWaitTest, AStoreThatIsReadForEverIsWaitedForAtTheEndOfARunOfEditsToo) {
-    platform::Batch batch(database);
+    platform::Transaction transaction(database);
     save();
     SQLite::Statement reading(other, "select word from words");
     ASSERT_TRUE(reading.executeStep());
     onBox([&](QMessageBox&) { reading.reset(); });
-    batch.commit();
+    transaction.commit();
     EXPECT_GT(seen, 3);
     EXPECT_FALSE(boxStands());
     EXPECT_EQ(store.rows("select word from words"), QStringList{"plum"});
@@ -97,7 +97,7 @@ TEST_F(StoreWaitTest, GivingUpIsToldWithTheStoreAndLeavesItUsable) {
     other.exec("begin immediate");
     onBox([](QMessageBox& box) { QTest::mouseClick(box.button(QMessageBox::Cancel), Qt::LeftButton); });
     QString sentence;
-    EXPECT_EQ(faultOf([&] { save(); }, &sentence), 3049);
+    EXPECT_EQ(errorOf([&] { save(); }, &sentence), 3049);
     EXPECT_TRUE(sentence.startsWith("'D:\\tovalin.mdb' is held by another program."))
         << sentence.toStdString();
     EXPECT_FALSE(boxStands());

@@ -28,7 +28,7 @@ class CourseFolder : public testing::Test {
 
     /// The places of what is wrong with the folder.
     QStringList wrong() const {
-        Damages damages;
+        ReadErrors damages;
         const BuiltCourse built(readCourse(folder_.path(), &damages), &damages);
         return check_cases::places(check::unreadable(damages));
     }
@@ -92,7 +92,7 @@ TEST_F(CourseFolder, TellsNumbersThatAreNone) {
 
 TEST_F(CourseFolder, WithoutAnyTableIsNone) {
     const QTemporaryDir empty;
-    Damages damages;
+    ReadErrors damages;
     EXPECT_THROW(readCourse(empty.path(), &damages), SourceError);
 }
 

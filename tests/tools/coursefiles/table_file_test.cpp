@@ -73,7 +73,7 @@ TEST(TableFile, TellsTheRowAndTheFirstFieldThatARowLacks) {
 }
 
 TEST(TableFile, GoesOnBehindRowsOfAnotherLengthWhereSomebodyCollectsThem) {
-    Damages damages;
+    ReadErrors damages;
     const TableFile table = parseTable("recordno,word\n1\n2,dog\n3,cow,x\n", name, &damages);
     EXPECT_EQ(damages.size(), 2U);
     ASSERT_EQ(table.rows.size(), 1U);

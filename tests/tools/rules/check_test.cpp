@@ -38,7 +38,7 @@ TEST(Check, AFindingTellsPlaceWrongAndRight) {
 }
 
 TEST(Check, AllUnreadablePlacesAreToldAtOnce) {
-    Damages damages;
+    ReadErrors damages;
     const CourseSource source = readFiles({{"unit01/newword.csv", "recordno,wrod\none,cat\n99999,dog\n"},
                                            {"unit01/gram_tip2.csv", "recordno,tip2\n1,x\n"}});
     const BuiltCourse built(source, &damages);

@@ -1,6 +1,6 @@
-#include "platform/storage/member_list.h"
+#include "platform/storage/keyset.h"
 
-#include "platform/storage/connection_guard.h"
+#include "platform/storage/connection.h"
 
 #include <SQLiteCpp/SQLiteCpp.h>
 
@@ -50,13 +50,13 @@ QString keyQuery(const Query& query, bool reversed = false) {
 
 }  // namespace
 
-MemberList::MemberList(std::shared_ptr<Connection> connection, Query query)
+Keyset::Keyset(std::shared_ptr<Connection> connection, Query query)
     : connection_(std::move(connection)), query_(std::move(query)), complete_(false) {
     read(false);
 }
 
-void MemberList::read(bool all) {
-    connection_->guarded(
+void Keyset::read(bool all) {
+    connection_->translateErrors(
         [&] {
             const auto statement = connection_->prepare(keyQuery(query_) + QStringLiteral(" LIMIT ?"));
             statement->bind(1, all ? -1 : eagerMembers + 1);
@@ -76,15 +76,15 @@ void MemberList::read(bool all) {
         query_.table);
 }
 
-void MemberList::readAll() {
+void Keyset::readAll() {
     if (!complete_)
         read(true);
 }
 
-std::size_t MemberList::totalCount() const {
+std::size_t Keyset::totalCount() const {
     if (complete_)
         return liveCount_;
-    return connection_->guarded([&] {
+    return connection_->translateErrors([&] {
         const auto statement = connection_->prepare(selection(QStringLiteral("COUNT(*)"), query_));
         statement->executeStep();
         const auto count = static_cast<std::size_t>(statement->getColumn(0).getInt64());
@@ -93,7 +93,7 @@ std::size_t MemberList::totalCount() const {
     });
 }
 
-std::optional<std::size_t> MemberList::indexOf(std::int64_t key) const {
+std::optional<std::size_t> Keyset::indexOf(std::int64_t key) const {
     const auto found = std::find_if(members_.begin(), members_.end(),
                                     [&](const Member& member) { return member.key == key && !member.gone; });
     if (found == members_.end())
@@ -101,7 +101,7 @@ std::optional<std::size_t> MemberList::indexOf(std::int64_t key) const {
     return static_cast<std::size_t>(found - members_.begin());
 }
 
-std::optional<std::size_t> MemberList::nextLive(std::size_t from) {
+std::optional<std::size_t> Keyset::nextLive(std::size_t from) {
     if (from >= members_.size())
         readAll();
     for (std::size_t i = from; i < members_.size(); ++i)
@@ -110,15 +110,15 @@ std::optional<std::size_t> MemberList::nextLive(std::size_t from) {
     return std::nullopt;
 }
 
-std::size_t MemberList::lastLive() const {
+std::size_t Keyset::lastLive() const {
     std::size_t last = members_.size() - 1;
     while (members_[last].gone)
         --last;
     return last;
 }
 
-std::optional<std::int64_t> MemberList::lastKeyInStore() const {
-    return connection_->guarded([&] {
+std::optional<std::int64_t> Keyset::lastKeyInStore() const {
+    return connection_->translateErrors([&] {
         std::optional<std::int64_t> key;
         const auto statement = connection_->prepare(keyQuery(query_, true) + QStringLiteral(" LIMIT 1"));
         if (statement->executeStep())
@@ -128,24 +128,24 @@ std::optional<std::int64_t> MemberList::lastKeyInStore() const {
     });
 }
 
-void MemberList::append(std::int64_t key) {
+void Keyset::append(std::int64_t key) {
     if (!complete_)
         return;
     members_.push_back({key, false});
     ++liveCount_;
 }
 
-void MemberList::markGone(std::size_t index) {
+void Keyset::markGone(std::size_t index) {
     members_[index].gone = true;
     --liveCount_;
 }
 
-std::optional<std::int64_t> MemberList::find(const QString& criterion) const {
+std::optional<std::int64_t> Keyset::find(const QString& criterion) const {
     return complete_ && members_.size() <= probeLimit ? probe(criterion) : search(criterion);
 }
 
-std::optional<std::int64_t> MemberList::probe(const QString& criterion) const {
-    return connection_->guarded(
+std::optional<std::int64_t> Keyset::probe(const QString& criterion) const {
+    return connection_->translateErrors(
         [&]() -> std::optional<std::int64_t> {
             // Not kept for reuse: criteria carry what a learner typed and are hardly ever asked twice.
             SQLite::Statement statement(connection_->sqlite(),
@@ -166,8 +166,8 @@ std::optional<std::int64_t> MemberList::probe(const QString& criterion) const {
         query_.table);
 }
 
-std::optional<std::int64_t> MemberList::search(const QString& criterion) const {
-    return connection_->guarded(
+std::optional<std::int64_t> Keyset::search(const QString& criterion) const {
+    return connection_->translateErrors(
         [&]() -> std::optional<std::int64_t> {
             Query narrowed = query_;
             narrowed.where = query_.where.isEmpty()

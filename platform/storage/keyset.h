@@ -14,11 +14,11 @@ class Connection;
 
 /// The rows that belong to a set, by key and in the order of its query. Of a long set only the first ones are
 /// known until a move needs more, so that opening costs the same for any length.
-class MemberList {
+class Keyset {
    public:
-    MemberList() = default;
+    Keyset() = default;
     /// Reads the first members. Throws SyntaxError, TableNotFound or ItemNotFound.
-    MemberList(std::shared_ptr<Connection> connection, Query query);
+    Keyset(std::shared_ptr<Connection> connection, Query query);
 
     const Query& query() const { return query_; }
     bool isEmpty() const { return liveCount_ == 0; }

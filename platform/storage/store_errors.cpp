@@ -1,4 +1,4 @@
-#include "platform/storage/store_faults.h"
+#include "platform/storage/store_errors.h"
 
 #include "platform/error.h"
 
@@ -54,12 +54,12 @@ void requireWay(const QString& file, const QString& shownName) {
         }
         if (errno == EACCES)
             throw RuntimeError(
-                Fault::DatabaseFailure,
+                ErrorCode::DatabaseFailure,
                 QStringLiteral(
                     "'%1' cannot be reached: the folder '%2' is closed to you. Let its owner open it.")
                     .arg(shownName, folder));
         if (errno == ENOTDIR)
-            throw RuntimeError(Fault::DatabaseNotFound,
+            throw RuntimeError(ErrorCode::DatabaseNotFound,
                                QStringLiteral("'%1' cannot be reached: '%2' is a file and no folder.")
                                    .arg(shownName, folder));
         return;
@@ -85,15 +85,15 @@ QString rightsAdvice() {
 [[noreturn]] void throwMissing(const QString& file, const QString& shownName) {
     const QFileInfo found(file);
     if (found.isDir())
-        throw RuntimeError(Fault::DatabaseNotFound,
+        throw RuntimeError(ErrorCode::DatabaseNotFound,
                            QStringLiteral("'%1' is a folder and no store (%2).").arg(shownName, file));
     QFile opened(file);
     if (found.exists() && !opened.open(QIODevice::ReadOnly))
-        throw RuntimeError(Fault::DatabaseFailure,
+        throw RuntimeError(ErrorCode::DatabaseFailure,
                            QStringLiteral("'%1' cannot be opened: %2, the file %3 (%4). %5")
                                .arg(shownName, opened.errorString(), protection(file), file, rightsAdvice()));
     requireWay(file, shownName);
-    throw RuntimeError(Fault::DatabaseNotFound,
+    throw RuntimeError(ErrorCode::DatabaseNotFound,
                        QStringLiteral("Could not find file '%1' (%2).").arg(shownName, file));
 }
 
@@ -116,13 +116,13 @@ void requireStore(const QString& file, const QString& shownName) {
     switch (storeFormat(file)) {
         case StoreFormat::Missing: throwMissing(file, shownName);
         case StoreFormat::AccessFile:
-            throw RuntimeError(Fault::UnrecognizedFormat,
+            throw RuntimeError(ErrorCode::UnrecognizedFormat,
                                QStringLiteral("'%1' is a genuine Access file. Bring it along with \"course "
                                               "import\"; the file was left as it is.")
                                    .arg(shownName));
         case StoreFormat::Unknown:
             throw RuntimeError(
-                Fault::UnrecognizedFormat,
+                ErrorCode::UnrecognizedFormat,
                 QStringLiteral("'%1' is damaged: it is no store of this program.").arg(shownName));
         case StoreFormat::Store: break;
     }
@@ -130,7 +130,7 @@ void requireStore(const QString& file, const QString& shownName) {
 
 void throwDamaged(const QString& file, const QString& shownName, const QString& reason) {
     throw RuntimeError(
-        Fault::UnrecognizedFormat,
+        ErrorCode::UnrecognizedFormat,
         QStringLiteral("'%1' is damaged (%2). Nothing more is written to it; put a sound copy in "
                        "the place of '%3'.")
             .arg(shownName, reason, file));
@@ -146,7 +146,7 @@ void throwNotWritable(const QString& file, const QString& shownName, const QStri
     else if (!mayWrite(folder))
         cause = QStringLiteral("its folder ") + protection(folder);
     throw RuntimeError(
-        Fault::DatabaseFailure,
+        ErrorCode::DatabaseFailure,
         QStringLiteral("'%1' cannot be written: %2 (%3). %4").arg(shownName, cause, file, rightsAdvice()));
 }
 
@@ -154,19 +154,19 @@ void throwRefusedStatement(const QString& shownName, const QString& table, const
     const QString noSuchTable = QStringLiteral("no such table: ");
     const QString noSuchColumn = QStringLiteral("no such column: ");
     if (reason.startsWith(noSuchColumn))
-        throw RuntimeError(Fault::ItemNotFound,
+        throw RuntimeError(ErrorCode::ItemNotFound,
                            QStringLiteral("There is no field '%1' in table '%2' of '%3'.")
                                .arg(reason.mid(noSuchColumn.size()), table, shownName));
     if (reason.startsWith(noSuchTable))
         throw RuntimeError(
-            Fault::TableNotFound,
+            ErrorCode::TableNotFound,
             QStringLiteral("'%1' has no table '%2'.").arg(shownName, reason.mid(noSuchTable.size())));
     for (const char* lack : {"no such collation sequence", "no such module", "unsupported file format"})
         if (reason.contains(QLatin1String(lack)))
-            throw RuntimeError(Fault::UnrecognizedFormat,
+            throw RuntimeError(ErrorCode::UnrecognizedFormat,
                                QStringLiteral("'%1' was not made for this program, or is damaged (%2).")
                                    .arg(shownName, reason));
-    throw RuntimeError(Fault::SyntaxError,
+    throw RuntimeError(ErrorCode::SyntaxError,
                        QStringLiteral("Syntax error in expression on '%1': %2.").arg(shownName, reason));
 }
 
