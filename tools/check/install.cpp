@@ -3,6 +3,7 @@
 #include "core/schema.h"
 #include "platform/drives.h"
 #include "platform/storage/database.h"
+#include "platform/storage/store_errors.h"
 
 #include <SQLiteCpp/SQLiteCpp.h>
 #include <QDir>

@@ -2,6 +2,7 @@
 
 #include "core/stores.h"
 #include "platform/storage/database.h"
+#include "platform/storage/store_errors.h"
 
 #include <QDir>
 #include <QFileInfo>

@@ -1,6 +1,7 @@
 #include "tools/import/run.h"
 
 #include "platform/storage/database.h"
+#include "platform/storage/store_errors.h"
 #include "tools/access/header.h"
 #include "tools/import/media.h"
 #include "tools/import/report.h"

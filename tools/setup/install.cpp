@@ -1,6 +1,7 @@
 #include "tools/setup/install.h"
 
 #include "platform/storage/database.h"
+#include "platform/storage/store_errors.h"
 #include "platform/whole_file.h"
 #include "tools/coursefiles/course_source.h"
 #include "tools/media/speech.h"

@@ -1,4 +1,5 @@
 #include "platform/storage/database.h"
+#include "platform/storage/store_errors.h"
 
 #include "platform/storage/query.h"
 #include "tests/support/store.h"

@@ -1,5 +1,6 @@
-// The import held against genuine Access files that nobody here wrote. They are no part of the project: the
-// folder is named by MENDORI_ACCESS_SAMPLES or lies beside the checkout.
+// The import held against genuine Access files. A small install of invented rows lies in
+// tests/samples/access; the tests of ForeignAccessFiles need files of other schemas that are no part of the
+// project, and run where the environment variable MENDORI_ACCESS_SAMPLES names their folder.
 
 #include "tests/tools/import/fake.h"
 
@@ -17,25 +18,11 @@ namespace {
 
 using namespace tools;
 
-QString samples() {
-    const QString named = qEnvironmentVariable("MENDORI_ACCESS_SAMPLES");
-    return named.isEmpty() ? QStringLiteral(MENDORI_SOURCE "/../shared/access-samples") : named;
-}
+const QString miniInstall = QStringLiteral(MENDORI_SOURCE "/tests/samples/access/mini-install");
 
 class AccessSamples : public ::testing::Test {
    protected:
-    void SetUp() override {
-        if (!QFileInfo::exists(samples() + QStringLiteral("/mini-install")))
-            GTEST_SKIP() << "no sample files in " << samples().toStdString()
-                         << "; MENDORI_ACCESS_SAMPLES names another folder";
-    }
-
-    static QString foreign(const char* name) {
-        return samples() + QStringLiteral("/foreign/") + QLatin1String(name);
-    }
-    static QString mini(const char* path) {
-        return samples() + QStringLiteral("/mini-install/") + QLatin1String(path);
-    }
+    static QString mini(const char* path) { return miniInstall + u'/' + QLatin1String(path); }
 
     /// A copy of a sample that a test may spoil.
     QString copyOf(const QString& sample) {
@@ -109,6 +96,20 @@ class AccessSamples : public ::testing::Test {
     QTemporaryDir folder_;
 };
 
+class ForeignAccessFiles : public AccessSamples {
+   protected:
+    void SetUp() override {
+        if (!QFileInfo::exists(folder()))
+            GTEST_SKIP() << "MENDORI_ACCESS_SAMPLES names no folder with files of other schemas";
+    }
+
+    static QString folder() {
+        const QString named = qEnvironmentVariable("MENDORI_ACCESS_SAMPLES");
+        return named.isEmpty() ? QString() : named + QStringLiteral("/foreign");
+    }
+    static QString foreign(const char* name) { return folder() + u'/' + QLatin1String(name); }
+};
+
 TEST_F(AccessSamples, OfASmallInstallComeOverWhole) {
     struct Expected {
         const char* file;
@@ -138,7 +139,7 @@ TEST_F(AccessSamples, OfASmallInstallComeOverWhole) {
     }
 }
 
-TEST_F(AccessSamples, OfOtherFormatsComeOverWhole) {
+TEST_F(ForeignAccessFiles, OfOtherFormatsComeOverWhole) {
     EXPECT_EQ(Reading(foreign("testV1997.mdb")).rows(),
               QStringLiteral("Table1 2, Table2 0, Table3 0, Table4 0"));
     EXPECT_EQ(Reading(foreign("testV2010.accdb")).rows(),
@@ -152,7 +153,7 @@ TEST_F(AccessSamples, OfOtherFormatsComeOverWhole) {
         EXPECT_TRUE(Reading(foreign(name)).whole()) << name;
 }
 
-TEST_F(AccessSamples, OfTheSameRowsInThreeFormatsHaveTheSameChecksum) {
+TEST_F(ForeignAccessFiles, OfTheSameRowsInThreeFormatsHaveTheSameChecksum) {
     const QString sum = Reading(foreign("test2V1997.mdb")).sum("MSP_PROJECTS");
     EXPECT_FALSE(sum.isEmpty());
     EXPECT_EQ(Reading(foreign("test2V2000.mdb")).sum("MSP_PROJECTS"), sum);
@@ -192,7 +193,7 @@ TEST_F(AccessSamples, KeepARowThatMovedInItsPlace) {
                            QStringLiteral("5")}));
 }
 
-TEST_F(AccessSamples, LeaveOutDeletedRowsAndColumns) {
+TEST_F(ForeignAccessFiles, LeaveOutDeletedRowsAndColumns) {
     Reading course(mini("D/tovalin.mdb"));
     EXPECT_EQ(course.ask("SELECT count(*) FROM tablework WHERE recordno=9"),
               QStringList{QStringLiteral("0")});
@@ -205,7 +206,7 @@ TEST_F(AccessSamples, LeaveOutDeletedRowsAndColumns) {
               QStringList{QStringLiteral("4")});
 }
 
-TEST_F(AccessSamples, KeepEveryCodeOfCompressedTexts) {
+TEST_F(ForeignAccessFiles, KeepEveryCodeOfCompressedTexts) {
     Reading reading(foreign("testUnicodeCompV2003.mdb"));
     const QStringList columns = reading.ask("SELECT name FROM pragma_table_info('Table')");
     QString all;
@@ -218,7 +219,7 @@ TEST_F(AccessSamples, KeepEveryCodeOfCompressedTexts) {
         EXPECT_TRUE(all.contains(QChar(code))) << static_cast<int>(code);
 }
 
-TEST_F(AccessSamples, ReadAKoreanFileOfTheOldFormatInItsCodePage) {
+TEST_F(ForeignAccessFiles, ReadAKoreanFileOfTheOldFormatInItsCodePage) {
     const QString file = copyOf(foreign("compIndexTestV1997.mdb"));
     import_test::writeText(file, bytesOf(file).replace("abcdef", "\xbc\xb6.\xb9\xb0."));
     Reading reading(file);
@@ -227,7 +228,7 @@ TEST_F(AccessSamples, ReadAKoreanFileOfTheOldFormatInItsCodePage) {
     EXPECT_EQ(row.mid(1), (QStringList{QStringLiteral("섬."), QStringLiteral("물.")}));
 }
 
-TEST_F(AccessSamples, NameTheColumnOfATextThatIsNotValidInItsCodePage) {
+TEST_F(ForeignAccessFiles, NameTheColumnOfATextThatIsNotValidInItsCodePage) {
     const QString file = copyOf(foreign("compIndexTestV1997.mdb"));
     QByteArray bytes = bytesOf(file);
     const qsizetype place = bytes.indexOf("abcdef");
@@ -259,7 +260,7 @@ void markCalculated(QByteArray& bytes) {
     FAIL() << "no such table";
 }
 
-TEST_F(AccessSamples, WithACalculatedFieldAreToldSoAndItsValuesAreNoGarbage) {
+TEST_F(ForeignAccessFiles, WithACalculatedFieldAreToldSoAndItsValuesAreNoGarbage) {
     const QString file = copyOf(foreign("testV2010.accdb"));
     QByteArray bytes = bytesOf(file);
     markCalculated(bytes);
@@ -272,7 +273,7 @@ TEST_F(AccessSamples, WithACalculatedFieldAreToldSoAndItsValuesAreNoGarbage) {
     EXPECT_GT(reading.report.tables[0].problems, 0) << "the proof does not call it the same";
 }
 
-TEST_F(AccessSamples, WithAPasswordAreToldSo) {
+TEST_F(ForeignAccessFiles, WithAPasswordAreToldSo) {
     for (const char* name : {"testV1997.mdb", "delColTestV2000.mdb"}) {
         const QString file = copyOf(foreign(name));
         QByteArray bytes = bytesOf(file);
@@ -283,7 +284,7 @@ TEST_F(AccessSamples, WithAPasswordAreToldSo) {
     }
 }
 
-TEST_F(AccessSamples, NeverLoseARowInSilenceWhicheverPageIsWiped) {
+TEST_F(ForeignAccessFiles, NeverLoseARowInSilenceWhicheverPageIsWiped) {
     struct Sample {
         QString file;
         qsizetype pageSize;
@@ -317,7 +318,7 @@ TEST_F(AccessSamples, CutAtAnyPlaceEndInASentence) {
 
 TEST_F(AccessSamples, GoThroughTheWholeImport) {
     ImportOptions options;
-    options.from = samples() + QStringLiteral("/mini-install");
+    options.from = miniInstall;
     options.root = folder_.filePath(QStringLiteral("root"));
     QString report;
     QTextStream out(&report);
@@ -340,7 +341,7 @@ TEST_F(AccessSamples, AreCheckedBehindTheImport) {
         checked = folder;
         return 0;
     };
-    const QString from = samples() + QStringLiteral("/mini-install");
+    const QString from = miniInstall;
     testing::internal::CaptureStdout();
     EXPECT_EQ(runImport({from, QStringLiteral("--root"), root, QStringLiteral("--dry-run")}, check), 0);
     EXPECT_TRUE(checked.isEmpty());
