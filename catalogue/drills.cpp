@@ -44,7 +44,7 @@ constexpr std::array drills{
         .boxes = 28,
         .ruleLines = 7,
         .promptSource = Prompts::None,
-        .scoreSlot = 5,
+        .scoreSlot = SetDrill,
         .shown = Field::Word1,
         .firstHintFromOrder = always,
         .laterHintFromBox = always,

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "catalogue/score_slots.h"
+
 #include <limits>
 #include <span>
 #include <string_view>
@@ -73,7 +75,7 @@ struct Drill {
 
     // Content and what is written into it at load.
     int contentRecord = 0;  // 0: the step in hand
-    int scoreSlot = 4;
+    ScoreSlot scoreSlot = MainExercise;
     SetUse tip = SetUse::Needed;
     const char* missingTip = "";  // the message where a guarded tip has no row
     SetUse rules = SetUse::Needed;

@@ -1,5 +1,6 @@
 #include "course/score.h"
 
+#include "catalogue/score_slots.h"
 #include "core/stores.h"
 #include "course/score_store.h"
 #include "platform/error.h"
@@ -15,8 +16,6 @@ using platform::Recordset;
 
 namespace {
 
-enum Slot { WholeStep = 0, Spelling = 1, Matching = 2, WordQuiz = 3, MainExercise = 4, SetDrill = 5 };
-
 /// Writes the word part's running average, from the stored texts and not from the raw scores.
 void averageWordScores(Recordset& rows) {
     const Int16 sum = rows.integer(QStringLiteral("s2")) + rows.integer(QStringLiteral("s3"));
@@ -28,18 +27,18 @@ void updateRow(Recordset& rows, Session& session) {
     rows.set(QStringLiteral("vDate"), session.today.toString(Qt::ISODate));
     rows.set(QStringLiteral("vtitle"), session.blankTitle);
     switch (session.scoreSlot) {
-        case Spelling: rows.set(QStringLiteral("s1"), QStringLiteral("100")); break;
-        case Matching:
+        case catalogue::Spelling: rows.set(QStringLiteral("s1"), QStringLiteral("100")); break;
+        case catalogue::Matching:
             rows.set(QStringLiteral("s2"), QString::number(session.scoreValue));
             averageWordScores(rows);
             break;
-        case WordQuiz:
+        case catalogue::WordQuiz:
             rows.set(QStringLiteral("s3"), QString::number(session.scoreValue));
             averageWordScores(rows);
             break;
-        case MainExercise: rows.set(QStringLiteral("s4"), session.scoreValue); break;
-        case SetDrill: rows.set(QStringLiteral("s5"), QString::number(session.scoreValue)); break;
-        case WholeStep:
+        case catalogue::MainExercise: rows.set(QStringLiteral("s4"), session.scoreValue); break;
+        case catalogue::SetDrill: rows.set(QStringLiteral("s5"), QString::number(session.scoreValue)); break;
+        case catalogue::WholeStep:
             rows.set(QStringLiteral("s4"), 100);
             session.scoreValue = 100;
             break;
@@ -57,9 +56,9 @@ void setWordColumns(Recordset& rows, const QString& text) {
 /// of the matching does, while a later one lands in s3.
 void setBegunColumns(Recordset& rows, const Session& session) {
     setWordColumns(rows, QStringLiteral("0"));
-    if (session.scoreSlot == Spelling)
+    if (session.scoreSlot == catalogue::Spelling)
         rows.set(QStringLiteral("s1"), QStringLiteral("100"));
-    if (session.scoreSlot == Matching || session.scoreSlot == WordQuiz) {
+    if (session.scoreSlot == catalogue::Matching || session.scoreSlot == catalogue::WordQuiz) {
         rows.set(QStringLiteral("s2"), QString::number(session.scoreValue));
         averageWordScores(rows);
     }
@@ -74,9 +73,9 @@ void addRow(Recordset& rows, const Session& session) {
         setWordColumns(rows, session.isFinal() ? QString() : QStringLiteral("N/A"));
         rows.set(QStringLiteral("s4"), session.scoreValue);
     }
-    if (session.scoreSlot == MainExercise)
+    if (session.scoreSlot == catalogue::MainExercise)
         rows.set(QStringLiteral("s4"), session.scoreValue);
-    if (session.scoreSlot == SetDrill)
+    if (session.scoreSlot == catalogue::SetDrill)
         rows.set(QStringLiteral("s5"), QString::number(session.scoreValue));
     rows.update();
 }

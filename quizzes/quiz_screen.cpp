@@ -1,5 +1,6 @@
 #include "quizzes/quiz_screen.h"
 
+#include "catalogue/score_slots.h"
 #include "core/play_sound.h"
 #include "core/stores.h"
 #include "course/score.h"
@@ -16,7 +17,6 @@ using catalogue::Shape;
 
 namespace {
 
-constexpr int scoreSlot = 4;
 constexpr int lastDigit = 5;
 
 course::ChromeLayout chromeOf(const QuizEntry& entry) {
@@ -33,7 +33,7 @@ course::ChromeLayout chromeOf(const QuizEntry& entry) {
 
 QuizScreen::QuizScreen(core::Context& context, const QuizEntry& entry)
     : ExerciseScreen(context, QLatin1String(entry.form), chromeOf(entry)), entry_(entry) {
-    session().scoreSlot = scoreSlot;
+    session().scoreSlot = catalogue::MainExercise;
     setAccessibleName(QStringLiteral("Grammar quiz"));
     showBegin(false);
     if (hasQuizButton())

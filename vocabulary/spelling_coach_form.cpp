@@ -2,6 +2,7 @@
 
 #include "vocabulary/spelling_coach.h"
 
+#include "catalogue/score_slots.h"
 #include "core/stores.h"
 
 namespace vocabulary {
@@ -10,7 +11,6 @@ using platform::TextRole;
 
 namespace {
 
-constexpr int spellingSlot = 1;
 constexpr int left = 44;
 constexpr QPoint panel(24, 342);
 constexpr int firstRowTop = 360;
@@ -36,7 +36,7 @@ constexpr std::array rowNames{"Copy", "Copy again", "Vowels", "Consonants", "Who
 SpellingCoach::SpellingCoach(core::Context& context)
     : ExerciseScreen(context, QStringLiteral("frmVoca2"), chrome) {
     setAccessibleName(QStringLiteral("Spelling coach"));
-    session().scoreSlot = spellingSlot;
+    session().scoreSlot = catalogue::Spelling;
     picPre().show();
     buildTexts();
     buildEntry();

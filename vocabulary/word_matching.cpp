@@ -1,5 +1,6 @@
 #include "vocabulary/word_matching.h"
 
+#include "catalogue/score_slots.h"
 #include "core/play_sound.h"
 #include "core/stores.h"
 #include "course/score.h"
@@ -15,7 +16,6 @@ using platform::TextRole;
 
 namespace {
 
-constexpr int matchingSlot = 2;
 constexpr int pairsPerPage = 10;
 // From this many words on, a list is played on two pages.
 constexpr int twoPageWords = 14;
@@ -43,7 +43,7 @@ const course::ChromeLayout chrome{
 WordMatching::WordMatching(core::Context& context)
     : ExerciseScreen(context, QStringLiteral("frmVoca3"), chrome) {
     setAccessibleName(QStringLiteral("Word matching"));
-    session().scoreSlot = matchingSlot;
+    session().scoreSlot = catalogue::Matching;
     picNext().hide();
     picPre().show();
     buildTexts();
@@ -81,7 +81,7 @@ void WordMatching::buildTexts() {
 }
 
 void WordMatching::buildColumns() {
-    const auto dress = [this](Label& label, int leftMargin) {
+    const auto applyLook = [this](Label& label, int leftMargin) {
         label.setPanel(platform::colour::choice, platform::colour::choiceLine);
         label.setContentsMargins(qRound(leftMargin * scale()), 0, qRound(8 * scale()), 0);
         label.setFocusPolicy(Qt::TabFocus);

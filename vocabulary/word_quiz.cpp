@@ -1,5 +1,6 @@
 #include "vocabulary/word_quiz.h"
 
+#include "catalogue/score_slots.h"
 #include "core/play_sound.h"
 #include "core/stores.h"
 #include "course/score.h"
@@ -16,7 +17,6 @@ using platform::TextRole;
 
 namespace {
 
-constexpr int wordQuizSlot = 3;
 constexpr int quizStepWords = 20;
 constexpr int shownFromMiss = 3;
 constexpr int ticksToNextWord = 2;
@@ -39,7 +39,7 @@ const course::ChromeLayout chrome{
 
 WordQuiz::WordQuiz(core::Context& context) : ExerciseScreen(context, QStringLiteral("frmVoca4"), chrome) {
     setAccessibleName(QStringLiteral("Vocabulary quiz"));
-    session().scoreSlot = wordQuizSlot;
+    session().scoreSlot = catalogue::WordQuiz;
     picPre().show();
     buildTexts();
     buildQuiz();
