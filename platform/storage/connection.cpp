@@ -20,6 +20,13 @@ constexpr int busyTimeout = 250;
 constexpr qint64 fullCheckLimit = 1024LL * 1024;
 constexpr qint64 quickCheckLimit = 8 * fullCheckLimit;
 
+const QString soundAnswer = QStringLiteral("ok");
+
+QString answerOf(SQLite::Database& store, const std::string& question) {
+    SQLite::Statement asked(store, question);
+    return asked.executeStep() ? QString::fromUtf8(asked.getColumn(0).getText()) : QString();
+}
+
 /// Where the rows of working tables come from, for longer than a store is open: a screen opens it anew.
 QHash<QString, QString>& origins() {
     static QHash<QString, QString> notes;
@@ -139,13 +146,18 @@ void Connection::requireSound() {
     const qint64 size = QFileInfo(file_).size();
     if (size > quickCheckLimit)
         return;
-    const QString found = translateErrors([&] {
-        SQLite::Statement check(
-            *sqlite_, size > fullCheckLimit ? "PRAGMA quick_check(1)" : "PRAGMA integrity_check(1)");
-        return check.executeStep() ? QString::fromUtf8(check.getColumn(0).getText()) : QString();
+    const std::string check = size > fullCheckLimit ? "PRAGMA quick_check(1)" : "PRAGMA integrity_check(1)";
+    const QString found = translateErrors([&] { return answerOf(*sqlite_, check); });
+    if (found == soundAnswer)
+        return;
+    const bool elsewhere = translateErrors([&] {
+        SQLite::Database plain(file_.toStdString(), SQLite::OPEN_READWRITE, busyTimeout);
+        return answerOf(plain, check) == soundAnswer;
     });
-    if (found != QStringLiteral("ok"))
+    if (!elsewhere)
         throwDamaged(file_, shownName_, found.section(u'\n', -1));
+    // Its indexes stand in the engine's own order of letters, as other programs make them.
+    translateErrors([&] { sqlite_->exec("REINDEX NOCASE"); });
 }
 
 void Connection::requireWritable() {

@@ -1,5 +1,6 @@
 #include "tools/import/run.h"
 
+#include "platform/letter_case.h"
 #include "platform/storage/database.h"
 #include "platform/storage/store_errors.h"
 #include "tools/access/header.h"
@@ -213,6 +214,8 @@ void Importer::writeNew(const FoundStore& store, const QString& target) {
     CopyReport report;
     {
         SQLite::Database written(half.name().toStdString(), SQLite::OPEN_READWRITE | SQLite::OPEN_CREATE);
+        // Indexes stand in the order that the course will look rows up by.
+        platform::compareStoredTextsButForCase(written.getHandle());
         if (store.schemaStore == QStringLiteral("DbScore"))
             keepFromOthers(half.name());
         // Nobody sees the file before it is whole, and moving it to its place flushes it to the disk.

@@ -1,6 +1,7 @@
 #include "tools/setup/store_writer.h"
 
 #include "core/schema.h"
+#include "platform/letter_case.h"
 #include "platform/storage/sql_value.h"
 #include "tools/support/replace_store.h"
 #include "tools/support/unfinished_file.h"
@@ -33,6 +34,8 @@ void fill(SQLite::Database& store, const BuiltTable& table) {
 
 void writeTables(const QString& file, const QString& schemaStore, const std::vector<BuiltTable>& content) {
     SQLite::Database store(file.toStdString(), SQLite::OPEN_READWRITE | SQLite::OPEN_CREATE);
+    // Indexes stand in the order that the course will look rows up by.
+    platform::compareStoredTextsButForCase(store.getHandle());
     if (schemaStore == QStringLiteral("DbScore"))
         keepFromOthers(file);
     // Nobody sees the file before it is whole, so that no journal has to lie beside it.

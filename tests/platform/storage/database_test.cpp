@@ -403,3 +403,15 @@ TEST(Database, TryingToWriteChangesNothing) {
     EXPECT_EQ(store.rows("pragma user_version"), QStringList{"0"});
     EXPECT_EQ(file.readAll().size(), before.size());
 }
+
+TEST(Database, AnIndexInTheEnginesOwnOrderOfLettersIsNoDamageAndIsPutRight) {
+    const TemporaryStore store(
+        "create table words(word TEXT COLLATE NOCASE); create index by_word on words(word);"
+        "insert into words values('\u00C9z'),('\u00E9a'),('\u00C9c'),('zoo'),('\u00E9b'),('\u00C9d')");
+    const Database database = store.open();
+    for (const char* word : {"\u00E9z", "\u00C9A", "\u00E9c", "\u00C9B", "\u00E9d"}) {
+        const auto rows = database.openRecordset(
+            QStringLiteral("Select * from words where word='%1'").arg(QString::fromUtf8(word)));
+        EXPECT_FALSE(rows.isEmpty()) << word;
+    }
+}
