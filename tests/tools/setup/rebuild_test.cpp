@@ -2,6 +2,7 @@
 
 #include "core/turn.h"
 #include "tests/support/desk.h"
+#include "tools/media/speech.h"
 #include "tools/setup/install.h"
 
 #include <SQLiteCpp/SQLiteCpp.h>
