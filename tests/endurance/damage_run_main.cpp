@@ -1,4 +1,4 @@
-// ReadErrors one file of a fresh install in a way that chance picks, starts the program on it with a learner
+// Damages one file of a fresh install in a way that chance picks, starts the program on it with a learner
 // who presses at random, and looks how it ends: never by a signal, never late, with a sentence that names the
 // file where it ends in an error, and with nothing written to a store that is broken. Says at the end how
 // many starts there were and what went wrong; status 1 where anything did.

@@ -19,7 +19,7 @@ struct Damage {
 using Chance = std::mt19937_64;
 std::uint64_t below(Chance& chance, std::uint64_t limit);
 
-/// ReadErrors one file of an install, or the settings, in a way that chance picks: stores as often as all
+/// Damages one file of an install, or the settings, in a way that chance picks: stores as often as all
 /// else. `settings` is the settings file, which lies elsewhere. Files are never changed in place, since
 /// installs share what no program writes to.
 Damage damageOneFile(Chance& chance, const QString& root, const QString& settings);
