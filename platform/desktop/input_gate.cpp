@@ -6,6 +6,7 @@
 #include <QApplication>
 #include <QComboBox>
 #include <QKeyEvent>
+#include <QMessageBox>
 #include <QMouseEvent>
 #include <QPointer>
 #include <QStyleHints>
@@ -83,7 +84,10 @@ class InputGate final : public QObject {
                 typedOn_.clear();
                 return refusesPress(widget, static_cast<const QMouseEvent&>(event));
             case QEvent::MouseButtonRelease: return refusesRelease(static_cast<const QMouseEvent&>(event));
-            case QEvent::KeyPress: return refusesBlank(widget, static_cast<const QKeyEvent&>(event));
+            case QEvent::KeyPress:
+                // Nobody types between the halves of a double click.
+                last_ = {};
+                return refusesBlank(widget, static_cast<const QKeyEvent&>(event));
             default: return false;
         }
     }
@@ -121,7 +125,7 @@ class InputGate final : public QObject {
     /// Whether the place of the last press holds something else by now.
     bool hasChanged(const QWidget& widget) const {
         // A message box is answered by whatever press reaches it.
-        if (formOf(widget) == nullptr)
+        if (qobject_cast<const QMessageBox*>(widget.window()) != nullptr)
             return false;
         const QWidget* before = last_.target;
         if (last_.changed || before == nullptr || hasLeft(*before) || before->window() != widget.window())

@@ -16,7 +16,7 @@ bool hasLeft(const QWidget& control);
 /// whether it looks different or not. The second half of a double click on it does nothing.
 void noteChange(const QWidget& control);
 
-/// Begins to keep back input that was not meant for what it reaches; once is enough for all forms:
+/// Begins to keep back input that was not meant for what it reaches; once is enough for all windows:
 /// - anything for a form that has left;
 /// - a press that follows another at the same place within the system's double-click time, where what stood
 ///   there has changed since: a new screen, another control, another question. Where it stands unchanged both

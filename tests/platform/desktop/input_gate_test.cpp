@@ -4,8 +4,10 @@
 #include "platform/desktop/timer.h"
 #include "tests/support/pressing.h"
 
+#include <QDialog>
 #include <QMessageBox>
 #include <QPointer>
+#include <QPushButton>
 #include <QStyleHints>
 
 using platform::Form;
@@ -155,6 +157,30 @@ TEST_F(InputGateTest, AMessageBoxIsAnsweredByWhateverPressReachesIt) {
     message.move(message.pos() + Hand::middleOf(begin) - Hand::middleOf(*ok));
     hand.clickAgain(message, Hand::middleOf(*ok));
     EXPECT_FALSE(message.isVisible());
+}
+
+TEST_F(InputGateTest, AWindowThatIsNoScreenGetsNoSecondHalfEither) {
+    QDialog preview(&form);
+    QPushButton close("Close", &preview);
+    close.setGeometry(10, 10, 80, 40);
+    preview.resize(form.size());
+    QObject::connect(&close, &QPushButton::clicked, &close, [this] { pressed.append("Close"); });
+    begin.onClick = [&] { preview.show(); };
+    const QPoint place = Hand::middleOf(begin);
+    hand.click(form, place);
+    preview.move(preview.pos() + place - Hand::middleOf(close));
+    hand.clickAgain(preview, place);
+    EXPECT_TRUE(pressed.isEmpty());
+    hand.click(preview, place);
+    EXPECT_EQ(pressed, QStringList{"Close"});
+}
+
+TEST_F(InputGateTest, APressAfterAKeyIsNoSecondHalf) {
+    swapOnBegin();
+    hand.click(begin);
+    QTest::keyClick(&form, Qt::Key_Return);
+    hand.click(quiz, Hand::doubleClick);
+    EXPECT_EQ(pressed, (QStringList{"picBegin", "picQuiz"}));
 }
 
 TEST_F(InputGateTest, NothingReachesTheHandlersOfAFormThatHasLeft) {
