@@ -3,6 +3,7 @@
 #include "catalogue/quizzes.h"
 #include "core/play_sound.h"
 #include "course/score.h"
+#include "platform/desktop/input_gate.h"
 #include "quizzes/fitted_text.h"
 #include "quizzes/quiz_places.h"
 
@@ -119,6 +120,9 @@ void QuestionQuiz::advance() {
         quizRs.moveNext();
         showAnswerLine();
         showQuestion(false);
+        // The button that checks looks the same and stands for the next question.
+        if (hasQuizButton())
+            platform::noteChange(picQuiz());
         return;
     }
     setRunning(false);

@@ -3,6 +3,7 @@
 #include "core/play_sound.h"
 #include "core/stores.h"
 #include "course/score.h"
+#include "platform/desktop/input_gate.h"
 #include "vocabulary/fitted_caption.h"
 #include "vocabulary/word_list.h"
 
@@ -139,6 +140,7 @@ void SpellingCoach::loadWord() {
     showStepBack(Stage::Closed);
     stage_ = Stage::Closed;
     cmdAnswer_->show();
+    platform::noteChange(*cmdAnswer_);
 }
 
 void SpellingCoach::finish() {

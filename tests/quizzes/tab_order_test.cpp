@@ -132,3 +132,18 @@ TEST(DoubleClick, OnBeginDoesNotPressTheAnswerThatTakesItsPlace) {
     hand.click(part(screen, "picQuiz"));
     EXPECT_EQ(desk.boxes.shown.size(), 2U);
 }
+
+TEST(DoubleClick, OnTheCheckPassesOneQuestionForATeacher) {
+    for (const char* form : {"frmQuiz6", "frmQuiz10"}) {
+        QuizDesk desk;
+        desk.layStep(2, questions(3));
+        desk.session.teacherMode = QStringLiteral("Teacher");
+        core::Screen* screen = desk.run(form);
+        ASSERT_NE(screen, nullptr) << form;
+        Hand hand;
+        hand.clickTwice(part(screen, "picQuiz"));
+        EXPECT_EQ(caption(screen, "lblCurrent"), QStringLiteral("2")) << form;
+        hand.click(part(screen, "picQuiz"));
+        EXPECT_EQ(caption(screen, "lblCurrent"), QStringLiteral("3")) << form;
+    }
+}

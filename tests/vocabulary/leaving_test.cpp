@@ -76,3 +76,17 @@ TEST(WordScreens, ADoubleClickOnNextSkipsNoScreen) {
     hand.click(*desk.top(), place);
     EXPECT_NE(desk.awaitScreen(QStringLiteral("frmVoca4")), nullptr) << "a press of its own goes on";
 }
+
+TEST(SpellingCoachDoubleClick, OnTheCheckAnswersOneWord) {
+    WordDesk desk(manyWords(2));
+    core::Screen* screen = desk.open(QStringLiteral("frmVoca2"));
+    ASSERT_NE(screen, nullptr) << desk.failure().toStdString();
+    support::settle();
+    auto& entry = find<platform::TextBox>(screen, QStringLiteral("txtWord"));
+    entry.setFocus();
+    spell(screen, manyWords(2).front().first.c_str());
+    Hand hand;
+    hand.clickTwice(find<QWidget>(screen, QStringLiteral("cmdAnswer")));
+    EXPECT_EQ(label(screen, "lblNow").caption(), QStringLiteral("1"));
+    EXPECT_TRUE(desk.boxes.shown.empty());
+}
