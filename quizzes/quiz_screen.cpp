@@ -6,6 +6,7 @@
 #include "course/score.h"
 #include "course/shuffle.h"
 #include "course/walk.h"
+#include "platform/desktop/input_gate.h"
 #include "quizzes/final_road.h"
 #include "quizzes/fitted_text.h"
 
@@ -309,6 +310,9 @@ void QuizScreen::keyPressEvent(QKeyEvent* event) {
     // A key that is held down answers once, not a whole run of questions.
     if (!event->isAutoRepeat() && !loading())
         chooseByDigit(number);
+    // With the keyboard on a button of the side the digit may as well begin an answer such as "2 books".
+    if (qobject_cast<platform::PictureButton*>(focusWidget()) == nullptr)
+        platform::noteShortcut();
     event->accept();
 }
 

@@ -56,6 +56,7 @@ class InputGate final : public QObject {
         if (last_.target == &control)
             last_.changed = true;
     }
+    void noteShortcut() { typedOn_.clear(); }
 
    protected:
     bool eventFilter(QObject* watched, QEvent* event) override {
@@ -172,6 +173,11 @@ bool hasLeft(const QWidget& control) {
 void noteChange(const QWidget& control) {
     if (theGate() != nullptr)
         theGate()->noteChange(control);
+}
+
+void noteShortcut() {
+    if (theGate() != nullptr)
+        theGate()->noteShortcut();
 }
 
 void watchInput() {

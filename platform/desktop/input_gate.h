@@ -16,6 +16,10 @@ bool hasLeft(const QWidget& control);
 /// whether it looks different or not. The second half of a double click on it does nothing.
 void noteChange(const QWidget& control);
 
+/// The character that was typed last has done something of its own, such as picking the choice of that
+/// number. It belongs to no answer, and a blank that follows it is a press.
+void noteShortcut();
+
 /// Begins to keep back input that was not meant for what it reaches; once is enough for all windows:
 /// - anything for a form that has left;
 /// - a press that follows another at the same place within the system's double-click time, where what stood

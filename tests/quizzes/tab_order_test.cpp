@@ -95,6 +95,17 @@ TEST_P(DoubleClickedChoice, AQuickPressOnAnotherChoiceCounts) {
     EXPECT_EQ(caption(screen, "lblCurrent"), QStringLiteral("3"));
 }
 
+TEST_P(DoubleClickedChoice, ABlankAfterADigitThatAnsweredIsAPress) {
+    core::Screen* screen = open();
+    ASSERT_NE(screen, nullptr);
+    QWidget& choice = part(screen, GetParam().choice);
+    choice.setFocus();
+    QTest::keyClick(&choice, Qt::Key_1);
+    ASSERT_EQ(caption(screen, "lblCurrent"), QStringLiteral("2"));
+    QTest::keyClick(&choice, Qt::Key_Space);
+    EXPECT_EQ(caption(screen, "lblCurrent"), QStringLiteral("3"));
+}
+
 INSTANTIATE_TEST_SUITE_P(OneAtATime, DoubleClickedChoice,
                          ::testing::Values(DoubleCase{"frmQuiz5", "cmdOne(0)"},
                                            DoubleCase{"frmQuiz7", "lblWord2(0)"},
