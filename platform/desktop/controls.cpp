@@ -265,7 +265,8 @@ void TextBox::selectAndFocus() {
 
 void TextBox::keyPressEvent(QKeyEvent* event) {
     const int code = keyCode(event->key());
-    if (code != 0)
+    // Enter that is held down answers once, not the next question too.
+    if (code != 0 && !(code == key::enter && event->isAutoRepeat()))
         act(*this, onKeyDown, code);
     // Enter belongs to the form: it moves between boxes and never edits one.
     if (code == key::enter)

@@ -158,3 +158,18 @@ TEST(DoubleClick, OnTheCheckPassesOneQuestionForATeacher) {
         EXPECT_EQ(caption(screen, "lblCurrent"), QStringLiteral("3")) << form;
     }
 }
+
+TEST(HeldEnter, AnswersOneQuestion) {
+    QuizDesk desk;
+    desk.layStep(2, questions(3));
+    desk.session.teacherMode = QStringLiteral("Teacher");
+    core::Screen* screen = desk.run("frmQuiz6");
+    ASSERT_NE(screen, nullptr);
+    QTest::keyPress(&part(screen, "txtWord"), Qt::Key_Return);
+    ASSERT_EQ(caption(screen, "lblCurrent"), QStringLiteral("2"));
+    QKeyEvent again(QEvent::KeyPress, Qt::Key_Return, Qt::NoModifier, QStringLiteral("\r"), true);
+    QCoreApplication::sendEvent(&part(screen, "txtWord"), &again);
+    EXPECT_EQ(caption(screen, "lblCurrent"), QStringLiteral("2"));
+    pressEnter(screen, "txtWord");
+    EXPECT_EQ(caption(screen, "lblCurrent"), QStringLiteral("3"));
+}
