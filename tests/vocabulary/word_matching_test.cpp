@@ -366,3 +366,17 @@ TEST(WordMatching, ShufflesByDrawingAgainForANumberThatIsTaken) {
               (QStringList{QStringLiteral("2"), QStringLiteral("1"), QStringLiteral("3")}));
     EXPECT_EQ(desk.random.reseeds, 8);
 }
+
+TEST(WordMatching, ARowThatHoldsNoNumberForItsWordsEndsTheRunAtTheSaveAndStaysAsItWas) {
+    for (const char* none : {"N/A", ""}) {
+        WordDesk desk(manyWords(10));
+        desk.session.programCode = QStringLiteral("Tovalin1");
+        const std::string text = std::string("'") + none + "'";
+        desk.exec(support::scoreStore, "insert into score(recordno,s1,s2,s3,s4,studentno,program) values(7," +
+                                           text + "," + text + "," + text + ",85,'1001','Tovalin1')");
+        const QString before = desk.results();
+        matchPage(openMatching(desk));
+        EXPECT_TRUE(desk.failure().contains("field 's3' of table 'score'")) << desk.failure().toStdString();
+        EXPECT_EQ(desk.results(), before);
+    }
+}

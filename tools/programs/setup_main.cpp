@@ -85,7 +85,7 @@ int main(int argc, char** argv) {
     const Options options;
     tools::CommandLine line(
         QStringLiteral("setup"),
-        QStringLiteral("Makes a complete install of a course. Can be run again: scores are never touched."));
+        QStringLiteral("Makes a complete install of a course. Can be run again: no score is ever lost."));
     QCommandLineParser& parser = line.parser();
     parser.addOptions({options.root, options.course, options.pictures, options.reports, options.userId,
                        options.name, options.teacher, options.guest, options.silent, options.noVideos});

@@ -36,8 +36,8 @@ int runBuild(const QStringList& arguments) {
         QStringLiteral("course build"),
         QStringLiteral(
             "Makes the stores of an install from a course's text tables, without pictures, sounds and "
-            "videos. A table with an error stops the build, and nothing is changed then. Scores of "
-            "learners are never touched."));
+            "videos. A table with an error stops the build, and nothing is changed then. No score "
+            "of a learner is ever lost."));
     QCommandLineParser& call = line.parser();
     call.addOption(rootOption);
     call.addPositionalArgument(QStringLiteral("folder"),

@@ -8,6 +8,7 @@
 #include "tools/media/wave.h"
 #include "tools/rules/check.h"
 #include "tools/setup/store_writer.h"
+#include "tools/setup/word_scores.h"
 #include "tools/support/replace_store.h"
 #include "tools/support/root_hold.h"
 #include "tools/support/unfinished_file.h"
@@ -183,6 +184,7 @@ class Installer {
             if (!exists || !current)
                 writeStore(file, QLatin1String(place.store), course.tables());
         }
+        openWordParts(root_, course.table(QStringLiteral("tablework")));
     }
 
     void makeScores() const {

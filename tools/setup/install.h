@@ -28,8 +28,8 @@ struct InstallPlan {
     std::function<void(const QString& what, int done, int total)> progress;
 };
 
-/// Makes a complete install, or brings one that it made before up to date. Scores of learners are never
-/// touched, and nothing that it did not make is overwritten. Throws std::runtime_error with a sentence that
+/// Makes a complete install, or brings one that it made before up to date. No score of a learner is ever
+/// lost, and nothing that it did not make is overwritten. Throws std::runtime_error with a sentence that
 /// says what is in the way and what to do.
 void makeInstall(const InstallPlan& plan);
 

@@ -155,3 +155,25 @@ TEST_F(Rebuild, WordsAreSpokenIntoTheirOwnFolderAlone) {
     EXPECT_TRUE(QDir(sounds + QStringLiteral("/deeper")).isEmpty());
     EXPECT_TRUE(QDir(sounds).entryList(QDir::Files | QDir::Hidden).isEmpty());
 }
+
+TEST_F(Rebuild, AStepThatHasGotWordsLetsThoseDoThemWhoFinishedItBefore) {
+    const QString words = course + QStringLiteral("/unit01/newword.csv");
+    ASSERT_TRUE(QFile::rename(words, folder.filePath(QStringLiteral("newword.csv"))));
+    tools::InstallPlan plan;
+    plan.root = root;
+    plan.courseFolder = course;
+    plan.pictureFolder = QStringLiteral(MENDORI_PICTURES);
+    plan.userId = QStringLiteral("1001");
+    plan.speakWords = false;
+    tools::makeInstall(plan);
+    const std::string scores = root.toStdString() + "/C/A_Mendori/Main/DbScore_1001.mdb";
+    SQLite::Database store(scores, SQLite::OPEN_READWRITE);
+    store.exec(
+        "insert into score(recordno,s1,s2,s3,s4,program) values (45,'','','',100,'Tovalin1'),"
+        "(46,'N/A','N/A','N/A',85,'Tovalin1')");
+    ASSERT_TRUE(QFile::rename(folder.filePath(QStringLiteral("newword.csv")), words));
+    EXPECT_EQ(make(course), QString());
+    SQLite::Statement row(store, "select group_concat(s1||s2||s3||' '||s4,';') from score");
+    ASSERT_TRUE(row.executeStep());
+    EXPECT_STREQ(row.getColumn(0).getText(), "000 100.0;N/AN/AN/A 85.0");
+}
