@@ -1,9 +1,11 @@
 // Set-up run again over an install: after a run that was cut short, and while others are at work in it.
 
 #include "core/turn.h"
+#include "platform/letter_case.h"
 #include "tests/support/desk.h"
 #include "tools/media/speech.h"
 #include "tools/setup/install.h"
+#include "tools/setup/store_writer.h"
 
 #include <SQLiteCpp/SQLiteCpp.h>
 #include <QDir>
@@ -176,4 +178,18 @@ TEST_F(Rebuild, AStepThatHasGotWordsLetsThoseDoThemWhoFinishedItBefore) {
     SQLite::Statement row(store, "select group_concat(s1||s2||s3||' '||s4,';') from score");
     ASSERT_TRUE(row.executeStep());
     EXPECT_STREQ(row.getColumn(0).getText(), "000 100.0;N/AN/AN/A 85.0");
+}
+
+TEST_F(Rebuild, IndexesStandInTheOrderThatTheProgramComparesBy) {
+    const QString file = folder.filePath(QStringLiteral("dicword.mdb"));
+    tools::writeStore(file, QStringLiteral("dicword.mdb"),
+                      {{QStringLiteral("dicword.mdb"),
+                        QStringLiteral("dicword"),
+                        {QStringLiteral("word")},
+                        {{{"Éz"}, {}}, {{"éa"}, {}}, {{"zoo"}, {}}}}});
+    const SQLite::Database store(file.toStdString(), SQLite::OPEN_READONLY);
+    platform::compareStoredTextsButForCase(store.getHandle());
+    SQLite::Statement check(store, "PRAGMA integrity_check");
+    ASSERT_TRUE(check.executeStep());
+    EXPECT_STREQ(check.getColumn(0).getText(), "ok");
 }
