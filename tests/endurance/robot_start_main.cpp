@@ -1,6 +1,6 @@
 // The program with a learner who presses what chance picks: argument 1 seeds the chance, argument 2 is how
 // many presses there are. Whatever box comes is told on standard output and answered. Ends with status 0 when
-// the presses are done, or as the program ends by itself.
+// the presses are done and tells their number, or as the program ends by itself.
 
 #include "app/program.h"
 #include "platform/desktop/application.h"
@@ -45,7 +45,16 @@ class Robot {
             QMetaObject::invokeMethod(
                 &ticks_, [this] { press(); }, Qt::QueuedConnection);
         else if (!pressing_ && idle_.hasExpired(idlePatience))
-            end();
+            reopen();
+    }
+    /// Some presses leave nothing but the frame, as at the end of the course. The table goes on from there,
+    /// unless it does not come up either.
+    void reopen() {
+        if (reopened_)
+            return end();
+        reopened_ = true;
+        idle_.restart();
+        program_.screens().open(QStringLiteral("frmTable"));
     }
     void press() {
         core::Screen* top = program_.screens().top();
@@ -56,6 +65,8 @@ class Robot {
         pressing_ = false;
     }
     void end() {
+        std::printf("presses: %d\n", pressed_);
+        std::fflush(stdout);
         ticks_.stop();
         program_.screens().endProgram();
     }
@@ -87,6 +98,8 @@ class Robot {
         const QList<QWidget*> targets = targetsOf(screen);
         if (targets.isEmpty())
             return;
+        reopened_ = false;
+        ++pressed_;
         QWidget* target = targets[static_cast<qsizetype>(endurance::below(chance_, targets.size()))];
         if (qobject_cast<platform::TextBox*>(target) != nullptr)
             QTest::keyClicks(target, QStringLiteral("a"));
@@ -112,6 +125,8 @@ class Robot {
     app::Program& program_;
     endurance::Chance chance_;
     int presses_;
+    int pressed_ = 0;
+    bool reopened_ = false;
     QTimer ticks_;
     QElapsedTimer idle_;
     bool pressing_ = false;
