@@ -6,7 +6,8 @@ namespace core {
 
 namespace {
 
-// Off by default; switched on it tells each sound with name and mode, for tests and for whoever looks for a silent one.
+// Off by default; switched on it tells each sound with name and mode, for tests and for whoever looks for a
+// silent one.
 Q_LOGGING_CATEGORY(soundLog, "tovalin.sound", QtCriticalMsg)
 
 QString soundFile(const Context& context, const QString& path) {

@@ -143,8 +143,10 @@ TEST_F(PictureTest, ACursorThatTheDiskHasNoRoomForLeavesTheOlderOne) {
 
 TEST_F(PictureTest, ALargePictureThatWasReadAheadIsNotDecodedAgain) {
     QImage noise(400, 400, QImage::Format_RGB32);
-    for (int i = 0; i < 400 * 400; ++i)
-        noise.setPixel(i % 400, i / 400, qRgb(i * 7919 % 251, i * 104729 % 241, i * 31 % 239));
+    for (unsigned i = 0; i < 400 * 400; ++i)
+        noise.setPixel(static_cast<int>(i % 400), static_cast<int>(i / 400),
+                       qRgb(static_cast<int>(i * 7919U % 251), static_cast<int>(i * 104729U % 241),
+                            static_cast<int>(i * 31U % 239)));
     const QString dense = folder.filePath("next1@2x.jpg");
     paint(file, 10, Qt::red);
     ASSERT_TRUE(noise.save(dense, "JPG", 100));
