@@ -106,14 +106,22 @@ class Robot {
         else
             QTest::mouseClick(target, Qt::LeftButton);
     }
+    /// A pool of words with all its slots filled: one pick more addresses a slot that is not there.
+    static bool isFull(const core::Screen& screen) {
+        const auto* last = screen.findChild<platform::Label*>(QStringLiteral("lblWord2(14)"));
+        const bool pool = screen.findChild<QWidget*>(QStringLiteral("cmdReset")) != nullptr;
+        return pool && last != nullptr && !last->text().isEmpty();
+    }
     /// On the course table the rows and units, elsewhere all that answers; the way out is left alone.
     QList<QWidget*> targetsOf(const core::Screen& screen) {
         QList<QWidget*> all;
         QList<QWidget*> rows;
+        const bool full = isFull(screen);
         for (QWidget* child : screen.findChildren<QWidget*>()) {
             const QString name = child->objectName();
             if (!child->isVisible() || !child->isEnabled() || name.startsWith(QStringLiteral("picExit")) ||
-                name.startsWith(QStringLiteral("qt_")) || name.isEmpty())
+                name.startsWith(QStringLiteral("qt_")) || name.isEmpty() ||
+                (full && name.startsWith(QStringLiteral("lblWord3("))))
                 continue;
             all.append(child);
             if (name.startsWith(QStringLiteral("lblTitle(")) || name.startsWith(QStringLiteral("lblTopic(")))
