@@ -2,7 +2,7 @@
 #include "platform/storage/store_errors.h"
 
 #include "platform/storage/query.h"
-#include "tests/support/store.h"
+#include "tests/platform/storage/two_words.h"
 #include "tests/support/stranger.h"
 
 #include <QFile>
@@ -14,16 +14,14 @@
 #include <unistd.h>
 
 using platform::Database;
-using platform::Query;
 using platform::StoreFormat;
 using platform::Transaction;
 using support::errorOf;
 using support::TemporaryStore;
+using two_words::add;
+using two_words::twoWords;
 
 namespace {
-
-const std::string twoWords =
-    "create table words(word TEXT COLLATE NOCASE); insert into words values('pear'),('fig')";
 
 class BrokenStore : public testing::Test {
    protected:
@@ -135,93 +133,6 @@ TEST(Database, AnEditThatTheStoreRefusesIsToldWithTheReason) {
     QString sentence;
     EXPECT_EQ(errorOf([&] { set.update(); }, &sentence), 3049);
     EXPECT_TRUE(sentence.contains("kept as it is"));
-}
-
-namespace {
-
-void add(const Database& database, const char* word) {
-    platform::Recordset set = database.openRecordset("Select * from words");
-    set.addNew();
-    set.set("word", word);
-    set.update();
-}
-
-}  // namespace
-
-TEST(Transaction, StoresAllEditsWhenItCommits) {
-    const TemporaryStore store(twoWords);
-    const Database database = store.open();
-    Transaction transaction(database);
-    add(database, "lime");
-    add(database, "plum");
-    EXPECT_EQ(store.rows("select count(*) from words"), QStringList{"2"}) << "onlookers see nothing yet";
-    transaction.commit();
-    EXPECT_EQ(store.rows("select count(*) from words"), QStringList{"4"});
-}
-
-TEST(Transaction, StoresNothingWhenAnErrorLeavesIt) {
-    const TemporaryStore store(twoWords);
-    const Database database = store.open();
-    platform::Recordset standing = database.openRecordset("Select * from words");
-    EXPECT_EQ(errorOf([&] {
-                  const Transaction transaction(database);
-                  platform::Recordset set = database.openRecordset("Select * from words");
-                  set.edit();
-                  set.set("word", "plum");
-                  set.update();
-                  EXPECT_EQ(standing.text("word"), "plum");
-                  set.text("colour");
-              }),
-              3265);
-    EXPECT_EQ(standing.text("word"), "pear") << "what was given up is gone for every set";
-    EXPECT_EQ(store.rows("select word from words"), (QStringList{"pear", "fig"}));
-    add(database, "lime");
-    EXPECT_EQ(store.rows("select count(*) from words"), QStringList{"3"}) << "the store takes edits again";
-}
-
-TEST(Transaction, TheOutermostOneStores) {
-    const TemporaryStore store(twoWords);
-    const Database database = store.open();
-    Transaction outer(database);
-    {
-        Transaction inner(database);
-        add(database, "lime");
-        inner.commit();
-    }
-    EXPECT_EQ(store.rows("select count(*) from words"), QStringList{"2"});
-    outer.commit();
-    EXPECT_EQ(store.rows("select count(*) from words"), QStringList{"3"});
-}
-
-TEST(Transaction, APartGivenUpIsToldWhenTheWholeIsToBeStored) {
-    const TemporaryStore store(twoWords);
-    const Database database = store.open();
-    Transaction outer(database);
-    {
-        const Transaction inner(database);
-        add(database, "lime");
-    }
-    EXPECT_EQ(errorOf([&] { outer.commit(); }), 3049);
-    EXPECT_EQ(store.rows("select count(*) from words"), QStringList{"2"});
-}
-
-TEST(Transaction, NeedsAnOpenDatabase) {
-    EXPECT_EQ(errorOf([] { const Transaction batch{Database()}; }), 5);
-}
-
-TEST(Query, TakesTheOneShapeApartInAnyCase) {
-    const Query query = Query::parse(
-        "  SELECT * From [tablework] WHERE topicno=3 and Title='order by a' ORDER BY pageno desc ");
-    EXPECT_EQ(query.table, "tablework");
-    EXPECT_EQ(query.where, "topicno=3 and Title='order by a'");
-    EXPECT_EQ(query.orderBy, "pageno desc");
-    EXPECT_EQ(Query::parse("Select * from topic").where, "");
-}
-
-TEST(Query, AnyOtherShapeIsASyntaxError) {
-    for (const char* sql :
-         {"", "Select word from words", "Delete from words", "Select * from words having a=1"})
-        EXPECT_EQ(errorOf([&] { Query::parse(sql); }), 3077) << sql;
 }
 
 TEST_F(BrokenStore, AStoreThatMayNotBeReadIsNotToldAsMissing) {
